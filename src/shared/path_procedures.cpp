@@ -1,0 +1,19 @@
+// Cuts a path at its last separator.
+#include "shared/path_procedures.h"
+
+namespace tarrowin {
+
+namespace {
+
+// Index behind the last separator; 0 when there is none.
+std::size_t nameStart(std::string_view path) { return path.find_last_of("\\/") + 1; }
+
+}  // namespace
+
+std::string FileNameOf(std::string_view path) { return std::string(path.substr(nameStart(path))); }
+
+std::string DirectoryOf(std::string_view path) {
+  return std::string(path.substr(0, nameStart(path)));
+}
+
+}  // namespace tarrowin
