@@ -1,0 +1,101 @@
+// Tells recordings from .mdb files and opens either.
+#include "access/database_source.h"
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+
+#include <sys/stat.h>
+
+#include "access/mdb/mdb_database.h"
+#include "access/model/mdb_model.h"
+#include "access/snapshot/snapshot_reader.h"
+
+namespace tarrowin {
+
+namespace {
+
+// A recording larger than this is refused rather than read into memory.
+constexpr std::size_t kLargestRecording = std::size_t{512} << 20;
+// How far a recording's first character is looked for.
+constexpr std::size_t kHeadSize = 4096;
+
+// Empty, or why the path is no file that could be read.
+std::string problemWith(const std::string& path) {
+  struct stat status {};
+  if (::stat(path.c_str(), &status) != 0)
+    return errno == ENOENT || errno == ENOTDIR ? "the file does not exist" : std::strerror(errno);
+  if (S_ISDIR(status.st_mode)) return "is a directory";
+  if (!S_ISREG(status.st_mode)) return "is not a regular file";
+  return {};
+}
+
+bool startsLikeRecording(std::string_view head) {
+  if (head.starts_with("\xEF\xBB\xBF")) head.remove_prefix(3);
+  const auto first = head.find_first_not_of(" \t\r\n");
+  return first != std::string_view::npos && head[first] == '{';
+}
+
+std::string readWhole(const std::string& path) {
+  std::ifstream file(path, std::ios::binary | std::ios::ate);
+  const auto size = static_cast<std::size_t>(file.tellg());
+  if (!file) throw OpenFailure(kErrAutomationFail, "cannot be read");
+  if (size > kLargestRecording)
+    throw OpenFailure(kErrAutomationFail,
+                      "is larger than " + std::to_string(kLargestRecording >> 20) + " MB");
+  std::string text(size, '\0');
+  file.seekg(0);
+  file.read(text.data(), static_cast<std::streamsize>(size));
+  if (!file) throw OpenFailure(kErrAutomationFail, "cannot be read");
+  return text;
+}
+
+std::unique_ptr<DatabaseModel> openRecording(const std::string& path, const CodePage& codePage) {
+  try {
+    return readSnapshot(readWhole(path), codePage);
+  } catch (const NewerSnapshot& error) {
+    throw OpenFailure(kErrNewerFormat, error.message());
+  } catch (const SnapshotError& error) {
+    throw OpenFailure(kErrAutomationFail, error.message());
+  }
+}
+
+std::int32_t numberFor(mdb::ErrorKind kind) {
+  if (kind == mdb::ErrorKind::kNewerFormat) return kErrNewerFormat;
+  return kind == mdb::ErrorKind::kPassword ? kErrPassword : kErrAutomationFail;
+}
+
+std::unique_ptr<DatabaseModel> openMdb(const std::string& path, const CodePage& codePage) {
+  try {
+    return makeMdbModel(mdb::Database::open(path), codePage);
+  } catch (const mdb::Error& error) {
+    throw OpenFailure(numberFor(error.kind()), error.message());
+  }
+}
+
+}  // namespace
+
+bool isRecording(const std::string& path) {
+  if (!problemWith(path).empty()) return false;
+  std::ifstream file(path, std::ios::binary);
+  std::string head(kHeadSize, '\0');
+  file.read(head.data(), static_cast<std::streamsize>(head.size()));
+  head.resize(static_cast<std::size_t>(file.gcount()));
+  return startsLikeRecording(head);
+}
+
+std::unique_ptr<DatabaseModel> openDatabaseFile(const std::string& path, const CodePage& codePage) {
+  if (const std::string problem = problemWith(path); !problem.empty())
+    throw OpenFailure(kErrAutomationFail, problem);
+  auto model = isRecording(path) ? openRecording(path, codePage) : openMdb(path, codePage);
+  model->path = path;
+  if (model->name.empty()) {
+    std::error_code error;
+    const auto absolute = std::filesystem::absolute(path, error);
+    model->name = codePage.fromUtf8(error ? path : absolute.string());
+  }
+  return model;
+}
+
+}  // namespace tarrowin

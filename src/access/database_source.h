@@ -1,0 +1,41 @@
+// Opens whatever holds a database and gives its tree. What a file is shows in its content, not in
+// its name.
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <memory>
+#include <string>
+
+#include "access/model/database_model.h"
+
+namespace tarrowin {
+
+// Why a file could not be opened as a database.
+class OpenFailure : public std::exception {
+ public:
+  OpenFailure(std::int32_t number, std::string reason)
+      : number_(number), reason_(std::move(reason)) {}
+
+  // What OpenCurrentDatabase raises: 0x80004005, 7866 for a newer format, 3031 for a password.
+  std::int32_t number() const { return number_; }
+  // In UTF-8, without a final stop and without the name of the file.
+  const std::string& reason() const { return reason_; }
+  const char* what() const noexcept override { return reason_.c_str(); }
+
+ private:
+  std::int32_t number_;
+  std::string reason_;
+};
+
+inline constexpr std::int32_t kErrNewerFormat = 7866;
+inline constexpr std::int32_t kErrPassword = 3031;
+
+// The tree of the database at that path (as the disk knows it). Throws OpenFailure.
+std::unique_ptr<DatabaseModel> openDatabaseFile(const std::string& path, const CodePage& codePage);
+
+// Whether the file is a recording: its first character, behind a byte order mark and blanks, is a
+// "{". False for what cannot be read.
+bool isRecording(const std::string& path);
+
+}  // namespace tarrowin

@@ -1,0 +1,92 @@
+// Sections and group levels.
+#include <utility>
+
+#include "access/model/design_errors.h"
+#include "access/model/design_objects.h"
+
+namespace tarrowin {
+
+namespace {
+
+class Section : public DesignObject {
+ public:
+  Section(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open, std::size_t section)
+      : DesignObject(std::move(session), std::move(open)), section_(section) {}
+
+ protected:
+  Value read(const MemberUse& use) override {
+    const SectionModel& section = design().sections[section_];
+    if (const Recorded<Value>* recorded = section.properties.valueOf(use.key))
+      return recorded->read(use.name);
+    switch (use.member()) {
+      case Member::kParent:
+        return makeDesign(sessionRef(), openRef());
+      case Member::kControls:
+        return collectionOrItem(
+            controlCollection(
+                sessionRef(), openRef(),
+                open().controlsOfSection(static_cast<NameId>(Member::kSection), section.number),
+                design_error::kObjectClosed),
+            use);
+      case Member::kProperties:
+        return collectionOrItem(
+            propertyCollection(sessionRef(),
+                               std::shared_ptr<const PropertyBag>(openRef(), &section.properties)),
+            use);
+      default:
+        raise(kErrNoSuchMember, use.name);
+    }
+  }
+
+  void write(const MemberUse& use, const Value& value) override {
+    const PropertyBag& properties = design().sections[section_].properties;
+    const std::size_t index = properties.find(use.key);
+    if (index == PropertyBag::kNotFound) raise(kErrNoSuchMember, use.name);
+    const NameId name = properties.nameAt(index);
+    open().edit().sections[section_].properties.set(model().names, name, value);
+  }
+
+ private:
+  Value collectionOrItem(CollectionSource source, const MemberUse& use) {
+    if (!use.arguments.empty()) return collectionItem(source, use.argument(0));
+    return makeDesignCollection(sessionRef(), openRef(), std::move(source));
+  }
+
+  std::size_t section_;
+};
+
+class GroupLevel : public DesignObject {
+ public:
+  GroupLevel(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open, std::size_t level)
+      : DesignObject(std::move(session), std::move(open)), level_(level) {}
+
+ protected:
+  Value read(const MemberUse& use) override {
+    const PropertyBag& properties = design().groupLevels[level_];
+    if (const Recorded<Value>* recorded = properties.valueOf(use.key))
+      return recorded->read(use.name);
+    if (use.member() == Member::kParent) return makeDesign(sessionRef(), openRef());
+    if (use.member() != Member::kProperties) raise(kErrNoSuchMember, use.name);
+    CollectionSource source = propertyCollection(
+        sessionRef(), std::shared_ptr<const PropertyBag>(openRef(), &properties));
+    if (!use.arguments.empty()) return collectionItem(source, use.argument(0));
+    return makeDesignCollection(sessionRef(), openRef(), std::move(source));
+  }
+
+ private:
+  std::size_t level_;
+};
+
+}  // namespace
+
+ObjectRef makeSection(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
+                      std::size_t section) {
+  return std::make_shared<Section>(std::move(session), std::move(open), section);
+}
+
+ObjectRef makeGroupLevel(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
+                         std::size_t level) {
+  return std::make_shared<GroupLevel>(std::move(session), std::move(open), level);
+}
+
+}  // namespace tarrowin

@@ -1,0 +1,175 @@
+// Fills the tree with what the catalog lists, and leaves the rest to be read later.
+#include "access/model/mdb_model.h"
+
+#include <utility>
+
+#include "access/mdb/query_text.h"
+
+namespace tarrowin {
+
+namespace {
+
+constexpr std::int32_t kErrCorrupt = 3049;
+constexpr std::int32_t kErrCannotOpenForm = 2121, kErrNoReport = 2103, kErrNoModule = 2516;
+
+// The open file, shared by everything that reads from it later.
+struct Source {
+  Source(mdb::Database&& opened, const CodePage& page)
+      : database(std::move(opened)), codePage(page) {}
+
+  mdb::Database database;
+  CodePage codePage;
+
+  std::string text(std::string_view utf8) const { return codePage.fromUtf8(utf8); }
+  Value value(Value utf8) const {
+    const std::string* found = utf8.text();
+    return found ? Value(text(*found)) : utf8;
+  }
+  // Runs what reads the file.
+  template <class Action>
+  auto reading(Action action) const {
+    try {
+      return action();
+    } catch (const mdb::Error& error) {
+      throw VbError(kErrCorrupt, text(database.fileName() + ": " + error.message()));
+    }
+  }
+};
+using SourceRef = std::shared_ptr<const Source>;
+
+class MdbRows : public RowCursor {
+ public:
+  MdbRows(SourceRef source, const mdb::CatalogObject& table)
+      : source_(std::move(source)), rows_(source_->database.rows(table)) {}
+
+  bool next() override {
+    return source_->reading([this] { return rows_.next(); });
+  }
+  // A cell that cannot be read is an error of its own; the others of its row are not lost with it.
+  Recorded<Value> cell(std::size_t field) const override {
+    try {
+      return source_->reading([&] { return source_->value(rows_.value(field)); });
+    } catch (const VbError& error) {
+      return RecordedError{error.number(), error.description()};
+    }
+  }
+
+ private:
+  SourceRef source_;
+  mdb::Rows rows_;
+};
+
+FieldList readFields(const Source& source, const mdb::CatalogObject& table) {
+  return source.reading([&] {
+    FieldList fields;
+    for (const mdb::Column& column : source.database.columns(table))
+      fields.push_back({source.text(column.name), column.type, column.size, {}, {}});
+    return fields;
+  });
+}
+
+// DAO's Connect of a linked table.
+std::string connectOf(const mdb::CatalogObject& table) {
+  if (table.kind != mdb::ObjectKind::kLinkedTable) return {};
+  if (!table.connect.empty() || table.database.empty()) return table.connect;
+  return ";DATABASE=" + table.database;
+}
+
+TableModel tableModel(const SourceRef& source, const mdb::CatalogObject& object) {
+  TableModel table;
+  table.name = source->text(object.name);
+  table.connect = source->text(connectOf(object));
+  table.fields = Lazy<FieldList>([source, &object] { return readFields(*source, object); });
+  if (object.kind == mdb::ObjectKind::kTable)
+    table.openRows = [source, &object]() -> std::unique_ptr<RowCursor> {
+      return source->reading([&] { return std::make_unique<MdbRows>(source, object); });
+    };
+  return table;
+}
+
+QueryModel queryModel(const SourceRef& source, const mdb::CatalogObject& object) {
+  const auto flags = static_cast<std::int32_t>(object.flags);
+  QueryModel query;
+  query.name = source->text(object.name);
+  query.sql = Lazy<Recorded<std::string>>([source, &object, flags] {
+    return source->reading([&] {
+      return Recorded<std::string>(
+          source->text(mdb::querySql(source->database.queryRows(object), flags)));
+    });
+  });
+  query.parametersAreComplete = false;
+  query.parameters = Lazy<std::vector<ParameterModel>>([source, &object] {
+    return source->reading([&] {
+      std::vector<ParameterModel> parameters;
+      for (const auto& parameter : mdb::queryParameters(source->database.queryRows(object)))
+        parameters.push_back({source->text(parameter.name), parameter.type});
+      return parameters;
+    });
+  });
+  query.type = object.queryKind();
+  query.connect = Lazy<std::optional<std::string>>([source, &object, flags] {
+    return source->reading([&] {
+      return std::optional(
+          source->text(mdb::queryConnect(source->database.queryRows(object), flags)));
+    });
+  });
+  return query;
+}
+
+RecordedError cannotOpen(std::int32_t number, std::string_view kind, const std::string& name) {
+  return {number, "Microsoft Access can't open the " + std::string(kind) + " '" + name + "'."};
+}
+
+DesignModel designModel(std::string name, std::int32_t error, std::string_view kind) {
+  DesignModel design;
+  design.openError = cannotOpen(error, kind, name);
+  design.exportError = design.openError;
+  design.name = std::move(name);
+  return design;
+}
+
+void addAccessObjects(const Source& source, DatabaseModel& model) {
+  for (const auto& object : source.database.forms())
+    model.forms.add(designModel(source.text(object.name), kErrCannotOpenForm, "form"));
+  for (const auto& object : source.database.reports())
+    model.reports.add(designModel(source.text(object.name), kErrNoReport, "report"));
+  for (const auto& object : source.database.macros()) {
+    MacroModel macro;
+    macro.name = source.text(object.name);
+    model.macros.add(std::move(macro));
+  }
+  for (const auto& object : source.database.modules()) {
+    ModuleModel module;
+    module.name = source.text(object.name);
+    module.openError = cannotOpen(kErrNoModule, "module", module.name);
+    module.exportError = module.openError;
+    model.modules.add(std::move(module));
+  }
+}
+
+}  // namespace
+
+std::unique_ptr<DatabaseModel> makeMdbModel(mdb::Database database, const CodePage& codePage) {
+  auto model = std::make_unique<DatabaseModel>(codePage);
+  const auto source = std::make_shared<const Source>(std::move(database), codePage);
+  model->version = source->database.version();
+  for (const mdb::Property& property : source->database.databaseProperties())
+    model->properties.set(model->names, model->names.intern(source->text(property.name)),
+                          source->value(property.value));
+  for (const auto& table : source->database.tables()) model->tables.add(tableModel(source, table));
+  for (const auto& query : source->database.queries())
+    model->queries.add(queryModel(source, query));
+  for (const mdb::Relation& relation : source->database.relations()) {
+    RelationModel added{source->text(relation.name),
+                        source->text(relation.table),
+                        source->text(relation.foreignTable),
+                        {}};
+    for (const mdb::RelationField& field : relation.fields)
+      added.fields.push_back({source->text(field.name), source->text(field.foreignName)});
+    model->relations.add(std::move(added));
+  }
+  addAccessObjects(*source, *model);
+  return model;
+}
+
+}  // namespace tarrowin

@@ -1,0 +1,18 @@
+// The tree of an .mdb file over the reader of its pages. Rows, query texts and fields are read when
+// asked for.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "access/mdb/mdb_database.h"
+#include "access/model/database_model.h"
+
+namespace tarrowin {
+
+// Of forms, reports, macros and modules there are only the names: opening a form raises 2121, a
+// report 2103, a module 2516, with a description that says that it cannot be opened. A damaged part
+// raises 3049, DAO's number for a file that may be corrupt, when it is asked for.
+std::unique_ptr<DatabaseModel> makeMdbModel(mdb::Database database, const CodePage& codePage);
+
+}  // namespace tarrowin

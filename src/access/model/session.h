@@ -1,0 +1,97 @@
+// An open database: the tree, and what is open in it.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+#include "access/model/database_model.h"
+#include "access/record_source/record_source.h"
+
+namespace tarrowin {
+
+// A form or report that is open in design view. The tree itself is not touched by changes: the
+// first one makes a copy, which is gone when the object is closed.
+class OpenDesign {
+ public:
+  OpenDesign(const DesignModel& design, bool isReport)
+      : source_(&design), design_(&design), isReport_(isReport) {}
+
+  // As stored, and as it looks now.
+  const DesignModel* source() const { return source_; }
+  const DesignModel& design() const { return *design_; }
+  bool isReport() const { return isReport_; }
+  // The copy for changes.
+  DesignModel& edit();
+
+  bool isOpen() const { return open_; }
+  // Closes it with all that is loaded in its subform controls.
+  void close();
+
+  // The positions of the controls whose Section property is the number.
+  const std::vector<std::size_t>& controlsOfSection(NameId sectionKey, std::int32_t number) const;
+  // What the subform control at the position shows, loaded once; empty until it is set.
+  std::shared_ptr<OpenDesign>& loadedIn(std::size_t control) { return loaded_[control]; }
+
+ private:
+  const DesignModel* source_;
+  const DesignModel* design_;
+  std::unique_ptr<DesignModel> copy_;
+  bool isReport_;
+  bool open_ = true;
+  mutable std::optional<std::unordered_map<std::int32_t, std::vector<std::size_t>>> bySection_;
+  std::unordered_map<std::size_t, std::shared_ptr<OpenDesign>> loaded_;
+};
+
+class Session {
+ public:
+  explicit Session(std::unique_ptr<DatabaseModel> model);
+  ~Session();
+
+  // The tree, which lives as long as an object of it is held: DAO's objects outlive the
+  // application that gave them.
+  const DatabaseModel& model() const { return *model_; }
+  bool isOpen() const { return open_; }
+  // Closes all forms, reports and modules; nothing can be opened any more.
+  void close();
+
+  // In the order of opening.
+  std::vector<std::shared_ptr<OpenDesign>> openForms, openReports;
+  std::vector<const ModuleModel*> openModules;
+  const MacroModel* selectedMacro = nullptr;
+
+  // The value of a query's parameter, or nullptr while it has none.
+  const Value* parameterValue(std::size_t query, std::size_t parameter) const;
+  void setParameterValue(std::size_t query, std::size_t parameter, Value value);
+
+  // The parameters of a query, recorded ones or else those that its text shows.
+  const std::vector<ParameterModel>& parametersOf(std::size_t query);
+  // The fields of a query: recorded, or found from its text as if every parameter had a value.
+  FieldList queryFields(std::size_t query);
+  // QueryDef.OpenRecordset: the same, but parameters without a value raise 3061.
+  FieldList openQuery(std::size_t query);
+
+  // The fields of a table, their source table and field filled in.
+  FieldList fieldsOfTable(const TableModel& table) const;
+
+  // Database.OpenRecordset.
+  struct Opened {
+    FieldList fields;
+    const TableModel* table = nullptr;  // whose rows it walks
+  };
+  Opened openRecordset(std::string_view source);
+
+ private:
+  class RecordSourceSchema;
+  RecordSourceAnalyzer& analyzer();
+
+  std::unique_ptr<DatabaseModel> model_;
+  bool open_ = true;
+  std::unique_ptr<RecordSourceSchema> schema_;
+  std::unique_ptr<RecordSourceAnalyzer> analyzer_;
+  std::unordered_map<std::size_t, std::vector<ParameterModel>> parameters_;
+  std::unordered_map<std::size_t, std::unordered_map<std::size_t, Value>> parameterValues_;
+};
+
+}  // namespace tarrowin
