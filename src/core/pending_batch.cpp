@@ -1,0 +1,47 @@
+// One driver for the kinds without a generator.
+#include "core/pending_batch.h"
+
+#include "core/batch_driver.h"
+
+namespace tarrowin {
+
+namespace {
+
+class PendingBatch : public BatchDriver {
+ public:
+  PendingBatch(MainObject& main, ObjectList list) : BatchDriver(main, batchMember(list)) {}
+
+ protected:
+  void resetLists() override {}
+  void convertSelection() override {}
+  std::string summary() override {
+    return "This version of Tarrowin cannot convert " + std::string(member_.words) + " yet.";
+  }
+  void closingStep() override {
+    if (member_.list != ObjectList::kModules) return;
+    statement([this] {
+      main_.state.gappAccess.doCmd().Close(access_constants::acModule, currentName_,
+                                           access_constants::acSaveNo);
+    });
+  }
+};
+
+}  // namespace
+
+void ConvertForms(MainObject& main, bool blnAll) {
+  PendingBatch(main, ObjectList::kForms).run(blnAll);
+}
+void ConvertReports(MainObject& main, bool blnAll) {
+  PendingBatch(main, ObjectList::kReports).run(blnAll);
+}
+void ConvertMacros(MainObject& main, bool blnAll) {
+  PendingBatch(main, ObjectList::kMacros).run(blnAll);
+}
+void ConvertModules(MainObject& main, bool blnAll) {
+  PendingBatch(main, ObjectList::kModules).run(blnAll);
+}
+void ConvertObjects(MainObject& main, bool blnAll) {
+  PendingBatch(main, ObjectList::kObjects).run(blnAll);
+}
+
+}  // namespace tarrowin

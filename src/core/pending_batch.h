@@ -1,0 +1,15 @@
+// The drivers of the object kinds that this version cannot convert yet: selection, output
+// directory and empty list are answered as in every driver, then the user is told.
+#pragma once
+
+namespace tarrowin {
+
+struct MainObject;
+
+void ConvertForms(MainObject& main, bool blnAll);
+void ConvertReports(MainObject& main, bool blnAll);
+void ConvertMacros(MainObject& main, bool blnAll);
+void ConvertModules(MainObject& main, bool blnAll);
+void ConvertObjects(MainObject& main, bool blnAll);
+
+}  // namespace tarrowin

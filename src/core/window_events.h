@@ -1,0 +1,26 @@
+// The events of the main window's controls, reached by the controls' own names, as the window, the
+// session script and the command line raise them.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "core/main_window.h"
+
+namespace tarrowin {
+
+struct MainObject;
+
+// A click on the button; index is the element of a control array. False when the window has no
+// button of that name.
+bool clickButton(MainObject& main, std::string_view name, int index = 0);
+
+// A double click on the list: its driver with the selection as it stands.
+void doubleClickList(MainObject& main, ObjectList list);
+
+// "lstQueries" and so on; nothing for another name.
+std::optional<ObjectList> listNamed(std::string_view name);
+// The list's control name.
+std::string_view nameOfList(ObjectList list);
+
+}  // namespace tarrowin
