@@ -1,0 +1,19 @@
+// tarrowin-cli list: what a database holds, by kind.
+#pragma once
+
+#include <string>
+
+#include "cli/environment.h"
+#include "cli/exit_status.h"
+
+namespace tarrowin {
+
+struct ListOptions {
+  std::string source;
+  bool json = false;
+};
+
+// Names are printed without loss, whatever the code page of a conversion would make of them.
+ExitStatus listSource(const Environment& environment, const ListOptions& options);
+
+}  // namespace tarrowin

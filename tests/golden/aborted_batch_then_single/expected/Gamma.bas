@@ -1,0 +1,4 @@
+Sub Gamma()
+Dim strSQL as String
+   strSQL = "SELECT 3;  "
+End Sub

@@ -1,0 +1,4 @@
+Sub All_Staff()
+Dim strSQL as String
+   strSQL = "SELECT * FROM Staff;  "
+End Sub

@@ -1,0 +1,5 @@
+Sub All_Orders()
+Dim strSQL as String
+   strSQL = "SELECT * FROM Orders;  "
+End Sub
+

@@ -1,0 +1,4 @@
+Sub Alpha()
+Dim strSQL as String
+   strSQL = "SELECT 1;  "
+End Sub

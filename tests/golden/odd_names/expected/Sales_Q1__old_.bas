@@ -1,0 +1,4 @@
+Sub Sales_Q1__old_()
+Dim strSQL as String
+   strSQL = "SELECT 5;  "
+End Sub

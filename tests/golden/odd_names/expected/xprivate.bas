@@ -1,0 +1,4 @@
+Sub xprivate()
+Dim strSQL as String
+   strSQL = "SELECT 2;  "
+End Sub

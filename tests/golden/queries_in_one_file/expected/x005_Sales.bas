@@ -1,0 +1,4 @@
+Sub x005_Sales()
+Dim strSQL as String
+   strSQL = "SELECT * FROM Sales;  "
+End Sub

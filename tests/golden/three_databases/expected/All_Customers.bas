@@ -1,0 +1,4 @@
+Sub All_Customers()
+Dim strSQL as String
+   strSQL = "SELECT Customers.*  FROM Customers;  "
+End Sub

@@ -1,0 +1,4 @@
+Sub Big_Orders()
+Dim strSQL as String
+   strSQL = "SELECT * FROM Orders;  "
+End Sub
