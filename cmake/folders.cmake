@@ -4,6 +4,10 @@ add_library(tarrowin_options INTERFACE)
 target_include_directories(tarrowin_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(tarrowin_options INTERFACE -Wall -Wextra -Wshadow -Wconversion
                                                   -Wno-sign-conversion)
+# g++ 12 warns of its own std::string in optimised builds.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  target_compile_options(tarrowin_options INTERFACE -Wno-restrict)
+endif()
 if(TARROWIN_WARNINGS_AS_ERRORS)
   target_compile_options(tarrowin_options INTERFACE -Werror)
 endif()

@@ -9,8 +9,8 @@ namespace {
 
 using enum BatchReaction;
 
-// The automation error of a call that Access rejected because it was busy with another.
-constexpr auto kCallRejected = static_cast<std::int32_t>(0x80010105u);
+// The automation error of a server that failed in a call.
+constexpr auto kServerFault = static_cast<std::int32_t>(0x80010105u);
 
 constexpr BatchErrorRow kQueryErrors[] = {
     {2601, kGoOn},
@@ -29,7 +29,7 @@ constexpr BatchErrorRow kMacroErrors[] = {
 constexpr BatchErrorRow kModuleErrors[] = {
     {2601, kNoPermission},
     {7961, kGoOn},
-    {kCallRejected, kGoOn},
+    {kServerFault, kGoOn},
 };
 constexpr BatchErrorRow kObjectErrors[] = {
     {2450, kGoOn},

@@ -108,15 +108,14 @@ FileSlots::~FileSlots() {
   }
 }
 
+std::string FileSlots::FullPath(std::string_view path) const {
+  if (path.starts_with(kPathSeparator)) return std::string(path);
+  return currentDirectory_ + kPathSeparator + std::string(path);
+}
+
 std::string FileSlots::diskPath(std::string_view path) const {
   if (path.find('\0') != std::string_view::npos) raise(kErrBadFileName);
-  std::string full;
-  if (!path.starts_with(kPathSeparator)) {
-    full = currentDirectory_;
-    full += kPathSeparator;
-  }
-  full += path;
-  return withoutEmptySteps(codePage_.toUtf8(full));
+  return withoutEmptySteps(codePage_.toUtf8(FullPath(path)));
 }
 
 FileSlots::Slot& FileSlots::openSlot(int number) {

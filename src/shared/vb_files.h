@@ -75,6 +75,8 @@ class FileSlots {
   const std::string& CurDir() const { return currentDirectory_; }
   // Raises 76 for what is no directory.
   void ChDir(std::string_view path);
+  // The path from the root on, for those who write a file on the program's behalf.
+  std::string FullPath(std::string_view path) const;
 
  private:
   struct Slot {

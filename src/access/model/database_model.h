@@ -101,8 +101,8 @@ struct DesignModel {
   std::vector<SectionModel> sections;
   std::vector<ControlModel> controls;
   std::vector<PropertyBag> groupLevels;
-  std::optional<std::string> module;  // the text of its class module
-  std::optional<std::int32_t> countOfLines;
+  Lazy<std::optional<std::string>> module;  // the text of its class module
+  Lazy<std::optional<std::int32_t>> countOfLines;
   std::optional<RecordedError> openError, exportError;
 };
 
@@ -121,9 +121,9 @@ struct MacroModel {
 
 struct ModuleModel {
   std::string name;
-  std::int32_t type = 0;  // 0 standard module, else class module
-  std::string text;
-  std::optional<std::int32_t> countOfLines;  // absent: counted in the text
+  Lazy<std::int32_t> type;  // 0 standard module, else class module
+  Lazy<std::string> text;
+  Lazy<std::optional<std::int32_t>> countOfLines;  // absent: counted in the text
   std::optional<RecordedError> openError, exportError;
 };
 

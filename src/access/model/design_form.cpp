@@ -45,9 +45,9 @@ class FormOrReport : public DesignObject {
       case Member::kCount:
         return static_cast<std::int32_t>(design().controls.size());
       case Member::kHasModule:
-        return design().module.has_value();
+        return design().module.get().has_value();
       case Member::kModule:
-        if (design().module) return makeClassModule(sessionRef(), openRef());
+        if (design().module.get()) return makeClassModule(sessionRef(), openRef());
         break;
       default:
         break;

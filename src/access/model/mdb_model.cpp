@@ -4,21 +4,27 @@
 #include <utility>
 
 #include "access/mdb/query_text.h"
+#include "access/vba/vba_project.h"
 
 namespace tarrowin {
 
 namespace {
 
 constexpr std::int32_t kErrCorrupt = 3049;
-constexpr std::int32_t kErrCannotOpenForm = 2121, kErrNoReport = 2103, kErrNoModule = 2516;
+constexpr std::int32_t kErrCannotOpenForm = 2121, kErrNoReport = 2103;
 
 // The open file, shared by everything that reads from it later.
 struct Source {
   Source(mdb::Database&& opened, const CodePage& page)
-      : database(std::move(opened)), codePage(page) {}
+      : database(std::move(opened)),
+        codePage(page),
+        project([this] { return vba::VbaProject::open(database); }) {}
+  Source(const Source&) = delete;
+  Source& operator=(const Source&) = delete;
 
   mdb::Database database;
   CodePage codePage;
+  Lazy<vba::VbaProject> project;
 
   std::string text(std::string_view utf8) const { return codePage.fromUtf8(utf8); }
   Value value(Value utf8) const {
@@ -120,31 +126,63 @@ RecordedError cannotOpen(std::int32_t number, std::string_view kind, const std::
   return {number, "Microsoft Access can't open the " + std::string(kind) + " '" + name + "'."};
 }
 
-DesignModel designModel(std::string name, std::int32_t error, std::string_view kind) {
+// The text of a module of the project, and its lines; the name is in UTF-8.
+std::string codeText(const Source& source, const std::string& module) {
+  return source.reading([&] { return source.text(source.project.get().moduleText(module)); });
+}
+std::optional<std::int32_t> codeLines(const Source& source, const std::string& module) {
+  return source.reading(
+      [&] { return static_cast<std::int32_t>(source.project.get().countOfLines(module)); });
+}
+
+// A form or report: its name and the code behind it, which the project keeps under the prefix.
+DesignModel designModel(const SourceRef& source, const mdb::CatalogObject& object,
+                        const RecordedError& openError, std::string_view prefix) {
+  const std::string module = std::string(prefix) + object.name;
   DesignModel design;
-  design.openError = cannotOpen(error, kind, name);
-  design.exportError = design.openError;
-  design.name = std::move(name);
+  design.name = source->text(object.name);
+  design.openError = openError;
+  design.module =
+      Lazy<std::optional<std::string>>([source, module]() -> std::optional<std::string> {
+        if (source->project.get().find(module) == nullptr) return std::nullopt;
+        return codeText(*source, module);
+      });
+  design.countOfLines =
+      Lazy<std::optional<std::int32_t>>([source, module] { return codeLines(*source, module); });
   return design;
 }
 
-void addAccessObjects(const Source& source, DatabaseModel& model) {
-  for (const auto& object : source.database.forms())
-    model.forms.add(designModel(source.text(object.name), kErrCannotOpenForm, "form"));
-  for (const auto& object : source.database.reports())
-    model.reports.add(designModel(source.text(object.name), kErrNoReport, "report"));
-  for (const auto& object : source.database.macros()) {
+ModuleModel moduleModel(const SourceRef& source, const mdb::CatalogObject& object) {
+  ModuleModel module;
+  module.name = source->text(object.name);
+  module.type = Lazy<std::int32_t>([source, name = object.name] {
+    const vba::Module* found = source->project.get().find(name);
+    return found != nullptr && found->kind != vba::ModuleKind::kStandard ? 1 : 0;
+  });
+  module.text = Lazy<std::string>([source, name = object.name] { return codeText(*source, name); });
+  module.countOfLines = Lazy<std::optional<std::int32_t>>(
+      [source, name = object.name] { return codeLines(*source, name); });
+  return module;
+}
+
+void addAccessObjects(const SourceRef& source, DatabaseModel& model) {
+  for (const auto& object : source->database.forms()) {
+    const std::string name = source->text(object.name);
+    model.forms.add(
+        designModel(source, object, cannotOpen(kErrCannotOpenForm, "form", name), "Form_"));
+  }
+  for (const auto& object : source->database.reports()) {
+    const std::string name = source->text(object.name);
+    model.reports.add(
+        designModel(source, object, cannotOpen(kErrNoReport, "report", name), "Report_"));
+  }
+  for (const auto& object : source->database.macros()) {
     MacroModel macro;
-    macro.name = source.text(object.name);
+    macro.name = source->text(object.name);
     model.macros.add(std::move(macro));
   }
-  for (const auto& object : source.database.modules()) {
-    ModuleModel module;
-    module.name = source.text(object.name);
-    module.openError = cannotOpen(kErrNoModule, "module", module.name);
-    module.exportError = module.openError;
-    model.modules.add(std::move(module));
-  }
+  for (const auto& object : source->database.modules())
+    model.modules.add(moduleModel(source, object));
 }
 
 }  // namespace
@@ -168,7 +206,7 @@ std::unique_ptr<DatabaseModel> makeMdbModel(mdb::Database database, const CodePa
       added.fields.push_back({source->text(field.name), source->text(field.foreignName)});
     model->relations.add(std::move(added));
   }
-  addAccessObjects(*source, *model);
+  addAccessObjects(source, *model);
   return model;
 }
 

@@ -10,8 +10,8 @@
 
 namespace tarrowin {
 
-// Of forms, reports, macros and modules there are only the names: opening a form raises 2121, a
-// report 2103, a module 2516, with a description that says that it cannot be opened. A damaged part
+// Of forms, reports and macros there are only the names and the code behind them: opening a form
+// raises 2121, a report 2103, with a description that says that it cannot be opened. A damaged part
 // raises 3049, DAO's number for a file that may be corrupt, when it is asked for.
 std::unique_ptr<DatabaseModel> makeMdbModel(mdb::Database database, const CodePage& codePage);
 
