@@ -17,13 +17,6 @@ class PendingBatch : public BatchDriver {
   std::string summary() override {
     return "This version of Tarrowin cannot convert " + std::string(member_.words) + " yet.";
   }
-  void closingStep() override {
-    if (member_.list != ObjectList::kModules) return;
-    statement([this] {
-      main_.state.gappAccess.doCmd().Close(access_constants::acModule, currentName_,
-                                           access_constants::acSaveNo);
-    });
-  }
 };
 
 }  // namespace
@@ -36,9 +29,6 @@ void ConvertReports(MainObject& main, bool blnAll) {
 }
 void ConvertMacros(MainObject& main, bool blnAll) {
   PendingBatch(main, ObjectList::kMacros).run(blnAll);
-}
-void ConvertModules(MainObject& main, bool blnAll) {
-  PendingBatch(main, ObjectList::kModules).run(blnAll);
 }
 void ConvertObjects(MainObject& main, bool blnAll) {
   PendingBatch(main, ObjectList::kObjects).run(blnAll);

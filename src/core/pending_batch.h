@@ -9,7 +9,6 @@ struct MainObject;
 void ConvertForms(MainObject& main, bool blnAll);
 void ConvertReports(MainObject& main, bool blnAll);
 void ConvertMacros(MainObject& main, bool blnAll);
-void ConvertModules(MainObject& main, bool blnAll);
 void ConvertObjects(MainObject& main, bool blnAll);
 
 }  // namespace tarrowin

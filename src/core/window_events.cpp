@@ -5,6 +5,7 @@
 
 #include "core/database_opening.h"
 #include "core/main_object.h"
+#include "core/module_batch.h"
 #include "core/pending_batch.h"
 #include "core/query_batch.h"
 

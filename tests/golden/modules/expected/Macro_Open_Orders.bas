@@ -1,0 +1,4 @@
+Function Open_Orders()
+'     DoCmd.Beep
+End Function
+
