@@ -11,6 +11,7 @@
 #include "access/mdb/mdb_database.h"
 #include "access/model/mdb_model.h"
 #include "access/snapshot/snapshot_reader.h"
+#include "access/vba/vba_project.h"
 
 namespace tarrowin {
 
@@ -66,9 +67,24 @@ std::int32_t numberFor(mdb::ErrorKind kind) {
   return kind == mdb::ErrorKind::kPassword ? kErrPassword : kErrAutomationFail;
 }
 
+// The head of a Jet 3 file names a code page that need not be that of its names: files in Cyrillic
+// say 1252. The page of the Visual Basic project is right more often.
+mdb::Database openWithItsCodePage(const std::string& path) {
+  mdb::Database database = mdb::Database::open(path);
+  if (!database.isJet3()) return database;
+  mdb::Options options;
+  {
+    const vba::VbaProject project = vba::VbaProject::open(database);
+    if (project.damage() || project.modules().empty()) return database;
+    options.codePage = project.codePage();
+  }
+  if (options.codePage == database.codePage()) return database;
+  return mdb::Database::open(path, options);
+}
+
 std::unique_ptr<DatabaseModel> openMdb(const std::string& path, const CodePage& codePage) {
   try {
-    return makeMdbModel(mdb::Database::open(path), codePage);
+    return makeMdbModel(openWithItsCodePage(path), codePage);
   } catch (const mdb::Error& error) {
     throw OpenFailure(numberFor(error.kind()), error.message());
   }

@@ -47,20 +47,47 @@ void showTotal(MainObject& main, ObjectList list, std::int32_t count) {
   label.visible = true;
 }
 
-// The names of a container's documents up to the first empty one, less the program's own, each
-// handed on and appended to the array.
-template <class Add>
-void addDocuments(MainObject& main, std::string_view container, GrowingList& names,
-                  std::span<const std::string_view> skipped, Add&& add) {
-  const Collection<Document> documents = main.state.mdbCurr.Containers(container).Documents();
-  const std::int32_t count = documents.Count();
-  for (std::int32_t i = 0; i < count; ++i) {
-    const std::string name = documents(i).Name();
-    if (name.empty()) return;
-    if (std::find(skipped.begin(), skipped.end(), name) != skipped.end()) continue;
-    add(name);
-    names.append(name);
-  }
+// A list that shows the documents of a container.
+struct ContainerRow {
+  ObjectList list;
+  std::string_view procedure;
+  std::string_view container;
+  std::string_view icon;
+  GrowingList ConversionState::*names;
+  std::int32_t ConversionState::*count;
+  std::span<const std::string_view> skipped;
+};
+
+// clang-format off
+constexpr ContainerRow kForms = {ObjectList::kForms, "GetFormNames", "Forms", kFormIcon,
+                                 &ConversionState::mstrFormNames,
+                                 &ConversionState::mintFormCount, kOwnForms};
+constexpr ContainerRow kMacros = {ObjectList::kMacros, "GetMacroNames", "Scripts", kMacroIcon,
+                                  &ConversionState::mstrMacroNames,
+                                  &ConversionState::mintMacroCount, {}};
+constexpr ContainerRow kModules = {ObjectList::kModules, "GetModuleNames", "Modules", kModuleIcon,
+                                   &ConversionState::mstrModuleNames,
+                                   &ConversionState::mintModuleCount, kOwnModules};
+// clang-format on
+
+// The documents up to the first without a name, less the program's own.
+void getDocumentNames(MainObject& main, const ContainerRow& row) {
+  reported(main, row.procedure, [&] {
+    GrowingList& names = main.state.*row.names;
+    names.reset();
+    const Collection<Document> documents = main.state.mdbCurr.Containers(row.container).Documents();
+    const std::int32_t count = documents.Count();
+    for (std::int32_t i = 0; i < count; ++i) {
+      const std::string name = documents(i).Name();
+      if (name.empty()) break;
+      if (std::find(row.skipped.begin(), row.skipped.end(), name) != row.skipped.end()) continue;
+      addItem(main, row.list, name, row.icon);
+      if (row.list == ObjectList::kForms) main.window.cboFormNamesItems.push_back(name);
+      names.append(name);
+    }
+    main.state.*row.count = names.count();
+    showTotal(main, row.list, names.count());
+  });
 }
 
 // The names of an array up to its first empty element, into the list of objects.
@@ -128,42 +155,9 @@ void GetQueryNames(MainObject& main) {
   });
 }
 
-void GetFormNames(MainObject& main) {
-  ConversionState& state = main.state;
-  reported(main, "GetFormNames", [&] {
-    state.mstrFormNames.reset();
-    addDocuments(main, "Forms", state.mstrFormNames, kOwnForms, [&](const std::string& name) {
-      addItem(main, ObjectList::kForms, name, kFormIcon);
-      main.window.cboFormNamesItems.push_back(name);
-    });
-    state.mintFormCount = state.mstrFormNames.count();
-    showTotal(main, ObjectList::kForms, state.mintFormCount);
-  });
-}
-
-void GetMacroNames(MainObject& main) {
-  ConversionState& state = main.state;
-  reported(main, "GetMacroNames", [&] {
-    state.mstrMacroNames.reset();
-    addDocuments(main, "Scripts", state.mstrMacroNames, {}, [&](const std::string& name) {
-      addItem(main, ObjectList::kMacros, name, kMacroIcon);
-    });
-    state.mintMacroCount = state.mstrMacroNames.count();
-    showTotal(main, ObjectList::kMacros, state.mintMacroCount);
-  });
-}
-
-void GetModuleNames(MainObject& main) {
-  ConversionState& state = main.state;
-  reported(main, "GetModuleNames", [&] {
-    state.mstrModuleNames.reset();
-    addDocuments(main, "Modules", state.mstrModuleNames, kOwnModules, [&](const std::string& name) {
-      addItem(main, ObjectList::kModules, name, kModuleIcon);
-    });
-    state.mintModuleCount = state.mstrModuleNames.count();
-    showTotal(main, ObjectList::kModules, state.mintModuleCount);
-  });
-}
+void GetFormNames(MainObject& main) { getDocumentNames(main, kForms); }
+void GetMacroNames(MainObject& main) { getDocumentNames(main, kMacros); }
+void GetModuleNames(MainObject& main) { getDocumentNames(main, kModules); }
 
 void GetReportNames(MainObject& main) {
   ConversionState& state = main.state;

@@ -224,17 +224,16 @@ std::string FileSlots::LineInput(int number) {
 
   std::string line;
   do {
-    const std::size_t end = slot.buffer.find_first_of(kCrLf, slot.position);
+    const std::size_t end = slot.buffer.find('\n', slot.position);
     if (end == std::string::npos) {
       line.append(slot.buffer, slot.position);
       slot.position = slot.buffer.size();
       continue;
     }
     line.append(slot.buffer, slot.position, end - slot.position);
-    const bool carriageReturn = slot.buffer[end] == '\r';
     slot.position = end + 1;
-    // The line feed of the pair may only come with the next block.
-    if (carriageReturn && fill(slot) && slot.buffer[slot.position] == '\n') ++slot.position;
+    // The carriage return of the pair may have come with the block before.
+    if (line.ends_with('\r')) line.pop_back();
     return line;
   } while (fill(slot));
   return line;

@@ -144,5 +144,41 @@ TEST(SampleModules, ThoseOfDatabasesConvertAndEveryLineIsAccountedFor) {
   EXPECT_GT(modules, 20);
 }
 
+// Copies of a real database with one byte changed in many places: what is damaged says so in a box
+// of its own, and the other modules convert all the same.
+TEST(SampleModules, DamageCostsOnlyTheModulesThatItTouches) {
+  const fs::path sample =
+      exportsFolder().parent_path() / "mdb/ailtonz__vba_msaccess/BalemAgenda2000.mdb";
+  if (!fs::exists(sample)) GTEST_SKIP() << "no sample at " << sample;
+  const std::string intact = fileContent(sample);
+  constexpr int kModules = 7;
+  constexpr int kCopies = 150;
+  int partly = 0;
+  for (int copy = 0; copy < kCopies; ++copy) {
+    // From page 1 on, spread over the whole file; the head decides whether it opens at all.
+    const std::size_t at =
+        4096 + (intact.size() - 4096) / kCopies * static_cast<std::size_t>(copy) + 777;
+    std::string damaged = intact;
+    for (std::size_t i = at; i < std::min(at + 512, damaged.size()); i += 7) damaged[i] ^= 0x55;
+    TestSession session;
+    writeFile(session.folder() + "/damaged.mdb", damaged);
+    session.openPath(session.folder() + "/damaged.mdb");
+    if (session.main.window.list(ObjectList::kModules).size() != kModules) continue;
+    session.clearBoxes();
+    session.main.window.txtCurDir = session.out().string();
+    ConvertModules(session.main, true);
+    for (const Box& box : session.user.boxes) {
+      EXPECT_TRUE(box.style == message_style::kInformation ||
+                  box.text.starts_with("ConvertModules() - Error #3049") ||
+                  box.text.starts_with("GetAccModuleCode("))
+          << box.text;
+    }
+    const int converted = session.main.lastBatch.converted;
+    EXPECT_EQ(fileNames(session.out()).size(), static_cast<std::size_t>(converted));
+    if (converted > 0 && converted < kModules) ++partly;
+  }
+  EXPECT_GT(partly, 0);
+}
+
 }  // namespace
 }  // namespace tarrowin::test

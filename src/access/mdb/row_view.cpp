@@ -10,25 +10,10 @@ namespace tarrowin::mdb {
 namespace {
 
 std::size_t fixedSize(const StoredColumn& column) {
-  switch (column.type) {
-    case kDaoByte:
-      return 1;
-    case kDaoInteger:
-      return 2;
-    case kDaoLong:
-    case kDaoSingle:
-      return 4;
-    case kDaoCurrency:
-    case kDaoDouble:
-    case kDaoDate:
-      return 8;
-    case kDaoGuid:
-      return 16;
-    case kStoredDecimal:
-      return 17;
-    default:
-      return column.length;
-  }
+  // A decimal is stored with a byte of its own for the sign.
+  constexpr std::size_t kStoredDecimalSize = 17;
+  if (column.type == kStoredDecimal) return kStoredDecimalSize;
+  return sizeOfType(column.type).value_or(column.length);
 }
 
 }  // namespace

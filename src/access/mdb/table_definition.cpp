@@ -43,20 +43,10 @@ int daoType(int stored) {
 }
 
 int daoSize(const StoredColumn& column, bool jet3) {
+  if (const auto size = sizeOfType(column.type)) return static_cast<int>(*size);
   switch (column.type) {
     case kDaoBoolean:
-    case kDaoByte:
       return 1;
-    case kDaoInteger:
-      return 2;
-    case kDaoLong:
-    case kDaoSingle:
-      return 4;
-    case kDaoCurrency:
-    case kDaoDouble:
-    case kDaoDate:
-      return 8;
-    case kDaoGuid:
     case kStoredDecimal:
       return 16;
     case kDaoLongBinary:
@@ -113,6 +103,26 @@ void sortForDisplay(std::vector<Entry>& entries) {
 }
 
 }  // namespace
+
+std::optional<std::size_t> sizeOfType(int type) {
+  switch (type) {
+    case kDaoByte:
+      return 1;
+    case kDaoInteger:
+      return 2;
+    case kDaoLong:
+    case kDaoSingle:
+      return 4;
+    case kDaoCurrency:
+    case kDaoDouble:
+    case kDaoDate:
+      return 8;
+    case kDaoGuid:
+      return 16;
+    default:
+      return std::nullopt;
+  }
+}
 
 std::size_t TableDefinition::find(std::string_view name) const {
   auto found = std::find_if(columns.begin(), columns.end(), [name](const Column& column) {

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -45,6 +46,9 @@ struct TableDefinition {
 // Stored type numbers that DAO does not share.
 inline constexpr int kStoredDecimal = 16;
 inline constexpr int kStoredFixedBinary = 17;
+
+// Bytes of a number, a date or a GUID; nothing for the types whose size is the column's own.
+std::optional<std::size_t> sizeOfType(int type);
 
 // The definition that begins on the page. Throws Error (kDamaged).
 TableDefinition readTableDefinition(const PageFile& file, std::uint32_t page,
