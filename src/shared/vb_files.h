@@ -49,8 +49,8 @@ class FileSlots {
   void PrintWithoutLineEnd(int number, std::string_view text);
 
   // Line Input #number: the next line without its end, which is CR LF or LF; a CR alone is a
-  // character of the line. The last line needs no end. Raises 62 at the end of the file, 52 for a number not open, 54 for one not for
-  // input.
+  // character of the line. The last line needs no end. Raises 62 at the end of the file, 52 for a
+  // number not open, 54 for one not for input.
   std::string LineInput(int number);
   // EOF(number): nothing is left to read; always true for output and append. Raises 52.
   bool Eof(int number);

@@ -8,25 +8,12 @@
 namespace tarrowin::test {
 namespace {
 
-struct Case {
-  std::string line;
-  Lines module;
-  Lines form;
-};
+class EveryRule : public testing::TestWithParam<RuleCase> {};
 
-void PrintTo(const Case& c, std::ostream* out) { *out << c.line; }
-
-class EveryRule : public testing::TestWithParam<Case> {};
-
-TEST_P(EveryRule, InModulesAndInForms) {
-  EXPECT_EQ(inModule(GetParam().line), GetParam().module);
-  EXPECT_EQ(inForm(GetParam().line), GetParam().form);
-}
-
-const Lines kGone = {};
+TEST_P(EveryRule, InModulesAndInForms) { expectRewritten(GetParam()); }
 
 // Lines whose fate depends on where in the line the text stands.
-const Case kAnchored[] = {
+const RuleCase kAnchored[] = {
     {"", kGone, kGone},
     {"    ", {"    "}, {"    "}},
 

@@ -8,26 +8,13 @@
 namespace tarrowin::test {
 namespace {
 
-struct Case {
-  std::string line;
-  Lines module;
-  Lines form;
-};
+class EveryDoCmdRow : public testing::TestWithParam<RuleCase> {};
 
-void PrintTo(const Case& c, std::ostream* out) { *out << c.line; }
-
-class EveryDoCmdRow : public testing::TestWithParam<Case> {};
-
-TEST_P(EveryDoCmdRow, InModulesAndInForms) {
-  EXPECT_EQ(inModule(GetParam().line), GetParam().module);
-  EXPECT_EQ(inForm(GetParam().line), GetParam().form);
-}
-
-const Lines kGone = {};
+TEST_P(EveryDoCmdRow, InModulesAndInForms) { expectRewritten(GetParam()); }
 
 // Each method bare, indented, as comment without and with a blank behind the apostrophe, and
 // inside a string.
-const Case kCases[] = {
+const RuleCase kCases[] = {
     // Without its blanks the line is one word.
     {"DoCmd.Beep ", {"' DoCmd.Beep "}, {"' DoCmd.Beep "}},
     {"DoCmd.Beep : x = 1", {"Beep ' DoCmd.Beep : x = 1"}, {"Beep ' DoCmd.Beep : x = 1"}},

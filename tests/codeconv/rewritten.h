@@ -1,9 +1,12 @@
 // One line through the rules, for tests.
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "codeconv/line_rewriter.h"
 
@@ -25,5 +28,21 @@ inline Lines rewritten(CodeKind kind, std::string_view line) {
 
 inline Lines inModule(std::string_view line) { return rewritten(CodeKind::kModule, line); }
 inline Lines inForm(std::string_view line) { return rewritten(CodeKind::kForm, line); }
+
+inline const Lines kGone = {};
+
+// A line with what it becomes in either kind of code.
+struct RuleCase {
+  std::string line;
+  Lines module;
+  Lines form;
+};
+
+inline void PrintTo(const RuleCase& c, std::ostream* out) { *out << c.line; }
+
+inline void expectRewritten(const RuleCase& c) {
+  EXPECT_EQ(inModule(c.line), c.module);
+  EXPECT_EQ(inForm(c.line), c.form);
+}
 
 }  // namespace tarrowin::test
