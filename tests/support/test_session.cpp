@@ -8,7 +8,6 @@
 #include <stdexcept>
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "access/access_host.h"
 #include "core/database_opening.h"
@@ -33,17 +32,6 @@ std::string RecordingUser::openFile(const OpenDialog& dialog) {
 
 void RecordingUser::refresh(const MainWindow& window) {
   progressLabels.push_back(window.lblPct.caption);
-}
-
-TemporaryFolder::TemporaryFolder() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "tarrowin-XXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  path_ = pattern;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
 }
 
 std::string fileContent(const std::filesystem::path& path) {

@@ -13,6 +13,7 @@
 
 #include "core/main_object.h"
 #include "shared/file_system.h"
+#include "shared/temporary_directory.h"
 
 namespace tarrowin::test {
 
@@ -43,17 +44,14 @@ class RecordingUser : public User {
   int fillings = 0;
 };
 
-// A folder that is deleted with its content.
+// A temporary directory whose path is put together with others.
 class TemporaryFolder {
  public:
-  TemporaryFolder();
-  ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
   const std::filesystem::path& path() const { return path_; }
 
  private:
-  std::filesystem::path path_;
+  TemporaryDirectory directory_;
+  std::filesystem::path path_ = directory_.path();
 };
 
 // The bytes of a file; throws when it cannot be read.

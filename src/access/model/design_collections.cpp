@@ -17,19 +17,7 @@ class DesignCollection : public DesignObject {
       : DesignObject(std::move(session), std::move(open)), source_(std::move(source)) {}
 
  protected:
-  Value read(const MemberUse& use) override {
-    switch (use.member()) {
-      case Member::kCount:
-        return static_cast<std::int32_t>(source_.count());
-      case Member::kDefault:
-      case Member::kItem:
-        return collectionItem(source_, use.argument(0));
-      case Member::kRefresh:
-        return {};
-      default:
-        raise(kErrNoSuchMember, use.name);
-    }
-  }
+  Value read(const MemberUse& use) override { return readCollection(source_, use); }
 
  private:
   CollectionSource source_;

@@ -23,6 +23,20 @@ ObjectRef collectionItem(const CollectionSource& source, const Value& which) {
   return source.item(static_cast<std::size_t>(index));
 }
 
+Value readCollection(const CollectionSource& source, const MemberUse& use) {
+  switch (use.member()) {
+    case Member::kCount:
+      return static_cast<std::int32_t>(source.count());
+    case Member::kDefault:
+    case Member::kItem:
+      return collectionItem(source, use.argument(0));
+    case Member::kRefresh:
+      return {};
+    default:
+      raise(kErrNoSuchMember, use.name);
+  }
+}
+
 namespace {
 
 class CollectionObject : public NamedObject {
@@ -35,19 +49,7 @@ class CollectionObject : public NamedObject {
     return session_ ? session_->model().names : memberNames();
   }
 
-  Value read(const MemberUse& use) override {
-    switch (use.member()) {
-      case Member::kCount:
-        return static_cast<std::int32_t>(source_.count());
-      case Member::kDefault:
-      case Member::kItem:
-        return collectionItem(source_, use.argument(0));
-      case Member::kRefresh:
-        return {};
-      default:
-        raise(kErrNoSuchMember, use.name);
-    }
-  }
+  Value read(const MemberUse& use) override { return readCollection(source_, use); }
 
  private:
   std::shared_ptr<Session> session_;

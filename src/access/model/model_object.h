@@ -72,6 +72,8 @@ ObjectRef makeCollection(std::shared_ptr<Session> session, CollectionSource sour
 
 // One item of a collection by the argument given: a text is a name, a number an index.
 ObjectRef collectionItem(const CollectionSource& source, const Value& which);
+// The members that every collection has: Count, Item, Refresh.
+Value readCollection(const CollectionSource& source, const MemberUse& use);
 
 // Raises 3265 for DAO's collections.
 CollectionSource daoCollection(std::function<std::size_t()> count,
