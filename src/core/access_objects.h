@@ -45,6 +45,11 @@ class LateBound {
   Value get(std::string_view name, std::initializer_list<Value> arguments) const {
     return target().get(name, {arguments.begin(), arguments.size()});
   }
+  // With the error as a value; also when there is no object.
+  Reading tryGet(std::string_view name) const {
+    if (!object_) return {{}, VbError::standard(kErrObjectNotSet)};
+    return object_->tryGet(name);
+  }
   void put(std::string_view name, const Value& value) const { target().put(name, value); }
   Value call(std::string_view name, std::initializer_list<Value> arguments = {}) const {
     return target().call(name, {arguments.begin(), arguments.size()});

@@ -29,8 +29,11 @@ std::string standardErrorText(std::int32_t number, std::string_view name) {
   return text;
 }
 
-void raise(std::int32_t number, std::string_view name) {
-  throw VbError(number, standardErrorText(number, name));
+void VbError::makeText() const {
+  description_ = standardErrorText(number_, description_);
+  isTextDue_ = false;
 }
+
+void raise(std::int32_t number, std::string_view name) { throw VbError::standard(number, name); }
 
 }  // namespace tarrowin

@@ -9,20 +9,34 @@
 
 namespace tarrowin {
 
+// Not for two threads at once: a standard text is made when it is asked for the first time, since
+// most errors are only told apart by their number.
 class VbError : public std::exception {
  public:
   VbError(std::int32_t number, std::string description)
       : number_(number), description_(std::move(description)) {}
+  // The error with standardErrorText(number, name) as its description.
+  static VbError standard(std::int32_t number, std::string_view name = {}) {
+    VbError error(number, std::string(name));
+    error.isTextDue_ = true;
+    return error;
+  }
 
   // Err.Number. An HRESULT such as 0x80004005 is its signed 32-bit value.
   std::int32_t number() const { return number_; }
   // Err.Description, in the program's ANSI code page.
-  const std::string& description() const { return description_; }
-  const char* what() const noexcept override { return description_.c_str(); }
+  const std::string& description() const {
+    if (isTextDue_) makeText();
+    return description_;
+  }
+  const char* what() const noexcept override { return description().c_str(); }
 
  private:
+  void makeText() const;
+
   std::int32_t number_;
-  std::string description_;
+  mutable bool isTextDue_ = false;  // the description is still the name alone
+  mutable std::string description_;
 };
 
 // The standard English text of an error number; the name stands in place of the text's
@@ -30,7 +44,7 @@ class VbError : public std::exception {
 // "Application-defined or object-defined error".
 std::string standardErrorText(std::int32_t number, std::string_view name = {});
 
-// Throws VbError{number, standardErrorText(number, name)}.
+// Throws VbError::standard(number, name).
 [[noreturn]] void raise(std::int32_t number, std::string_view name = {});
 
 // Numbers that the code raises by name. Visual Basic's own:

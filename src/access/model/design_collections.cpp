@@ -1,8 +1,8 @@
 // The collections of a design: controls and properties.
+#include <string>
 #include <utility>
 
 #include "access/model/dao_objects.h"
-#include "access/model/design_errors.h"
 #include "access/model/design_objects.h"
 
 namespace tarrowin {
@@ -10,50 +10,54 @@ namespace tarrowin {
 namespace {
 
 // Alive with its form or report.
+template <class Source>
 class DesignCollection : public DesignObject {
  public:
   DesignCollection(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
-                   CollectionSource source)
+                   Source source)
       : DesignObject(std::move(session), std::move(open)), source_(std::move(source)) {}
 
  protected:
-  Value read(const MemberUse& use) override { return readCollection(source_, use); }
+  Reading tryRead(const MemberUse& use) override { return answered(readCollection(source_, use)); }
 
  private:
-  CollectionSource source_;
+  Source source_;
 };
 
 }  // namespace
 
-const NameTable& DesignObject::names() const {
-  const NameTable& table = SessionObject::names();
-  if (!open_->isOpen()) raise(design_error::kObjectClosed);
-  return table;
+ObjectRef makeDesignCollection(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
+                               CollectionSource source) {
+  return std::make_shared<DesignCollection<CollectionSource>>(std::move(session), std::move(open),
+                                                              std::move(source));
 }
 
 ObjectRef makeDesignCollection(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
-                               CollectionSource source) {
-  return std::make_shared<DesignCollection>(std::move(session), std::move(open), std::move(source));
+                               ControlSource source) {
+  return std::make_shared<DesignCollection<ControlSource>>(std::move(session), std::move(open),
+                                                           std::move(source));
 }
 
-CollectionSource controlCollection(std::shared_ptr<Session> session,
-                                   std::shared_ptr<OpenDesign> open,
-                                   std::vector<std::size_t> positions, std::int32_t pastEnd) {
-  auto shared = std::make_shared<const std::vector<std::size_t>>(std::move(positions));
-  const CaseFolding* folding = &session->model().folding;
-  CollectionSource source;
-  source.count = [shared] { return shared->size(); };
-  source.find = [shared, open, folding](std::string_view name) {
-    return positionOfName(*shared, name, *folding, [&open](std::size_t control) {
-      return std::string_view(open->design().controls[control].name);
-    });
-  };
-  source.item = [shared, session = std::move(session), open](std::size_t i) {
-    return makeControl(session, open, (*shared)[i]);
-  };
-  source.missingName = [](std::string_view name) { raise(design_error::kNoField, name); };
-  source.missingIndex = [pastEnd](std::int32_t index) { raise(pastEnd, std::to_string(index)); };
-  return source;
+ControlSource::ControlSource(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
+                             ControlList controls, std::int32_t pastEnd, std::int32_t missing)
+    : session_(std::move(session)),
+      open_(std::move(open)),
+      controls_(std::move(controls)),
+      pastEnd_(pastEnd),
+      missing_(missing) {}
+
+ObjectRef ControlSource::item(std::size_t index) const {
+  return makeControl(session_, open_, (*controls_)[index]);
+}
+
+std::size_t ControlSource::find(std::string_view name) const {
+  return open_->controlIndex().find(*controls_, name, session_->model().folding);
+}
+
+void ControlSource::missingName(std::string_view name) const { raise(missing_, name); }
+
+void ControlSource::missingIndex(std::int32_t index) const {
+  raise(pastEnd_, std::to_string(index));
 }
 
 CollectionSource propertyCollection(std::shared_ptr<Session> session,

@@ -1,50 +1,13 @@
 // Controls, and the members that follow from what holds what.
 #include <utility>
 
-#include "access/model/design_errors.h"
 #include "access/model/design_objects.h"
 
 namespace tarrowin {
 
 namespace {
 
-constexpr std::int32_t kSubform = 112, kTabControl = 123, kPage = 124;
-
-// Whether the control at each position stands somewhere inside the holder.
-class DescendantSearch {
- public:
-  DescendantSearch(const std::vector<ControlModel>& controls, std::size_t holder)
-      : controls_(controls), known_(controls.size(), State::kUnknown) {
-    known_[holder] = State::kOutside;
-    holder_ = holder;
-  }
-
-  bool isInside(std::size_t control) {
-    path_.clear();
-    State state = State::kOutside;
-    std::size_t at = control;
-    while (true) {
-      if (known_[at] != State::kUnknown) {
-        state = known_[at];
-        break;
-      }
-      path_.push_back(at);
-      const std::size_t parent = controls_[at].parent;
-      if (parent == holder_) state = State::kInside;
-      if (parent == holder_ || parent == ControlModel::kNoParent) break;
-      at = parent;
-    }
-    for (const std::size_t passed : path_) known_[passed] = state;
-    return state == State::kInside;
-  }
-
- private:
-  enum class State : char { kUnknown, kInside, kOutside };
-  const std::vector<ControlModel>& controls_;
-  std::vector<State> known_;
-  std::vector<std::size_t> path_;
-  std::size_t holder_;
-};
+constexpr std::int32_t kSubform = 112, kTabControl = 123;
 
 class Control : public DesignObject {
  public:
@@ -52,34 +15,35 @@ class Control : public DesignObject {
       : DesignObject(std::move(session), std::move(open)), control_(control) {}
 
  protected:
-  Value read(const MemberUse& use) override {
+  Reading tryRead(const MemberUse& use) override {
     const ControlModel& control = self();
     const Recorded<Value>* recorded = control.properties.valueOf(use.key);
-    if (recorded && recorded->error()) recorded->error()->raise(use.name);
+    if (recorded && recorded->error()) return readingOf(*recorded, use.name);
     switch (use.member()) {
       case Member::kName:
-        return control.name;
+        return answered(control.name);
       case Member::kControlType:
-        return control.type;
+        return answered(control.type);
       case Member::kParent:
-        if (control.parent == ControlModel::kNoParent) return makeDesign(sessionRef(), openRef());
-        return makeControl(sessionRef(), openRef(), control.parent);
+        return answered(parent());
       case Member::kControls:
-        return collectionOrItem(controlsAt(descendants()), use);
+        return answered(
+            collectionOrItem(controlSource(open().controlIndex().inside(control_)), use));
       case Member::kPages:
-        if (control.type != kTabControl) raise(kErrNoSuchMember, use.name);
-        return collectionOrItem(controlsAt(pages()), use);
+        if (control.type != kTabControl) return failed(kErrNoSuchMember, use.name);
+        return answered(
+            collectionOrItem(controlSource(open().controlIndex().pagesOf(control_)), use));
       case Member::kForm:
-        return subform(model().forms, "Form.", false);
+        return answered(subform(model().forms, "Form.", false));
       case Member::kReport:
-        return subform(model().reports, "Report.", true);
+        return answered(subform(model().reports, "Report.", true));
       case Member::kProperties:
-        return collectionOrItem(propertyCollection(sessionRef(), allProperties()), use);
+        return answered(collectionOrItem(propertyCollection(sessionRef(), allProperties()), use));
       default:
         break;
     }
-    if (!recorded) raise(kErrNoSuchMember, use.name);
-    return recorded->read(use.name);
+    if (!recorded) return failed(kErrNoSuchMember, use.name);
+    return readingOf(*recorded, use.name);
   }
 
   void write(const MemberUse& use, const Value& value) override {
@@ -96,29 +60,10 @@ class Control : public DesignObject {
  private:
   const ControlModel& self() const { return design().controls[control_]; }
 
-  Value collectionOrItem(CollectionSource source, const MemberUse& use) {
-    if (!use.arguments.empty()) return collectionItem(source, use.argument(0));
-    return makeDesignCollection(sessionRef(), openRef(), std::move(source));
-  }
-
-  CollectionSource controlsAt(std::vector<std::size_t> positions) {
-    return controlCollection(sessionRef(), openRef(), std::move(positions), design_error::kNoField);
-  }
-
-  std::vector<std::size_t> descendants() const {
-    DescendantSearch search(design().controls, control_);
-    std::vector<std::size_t> result;
-    for (std::size_t i = 0; i < design().controls.size(); ++i)
-      if (search.isInside(i)) result.push_back(i);
-    return result;
-  }
-
-  std::vector<std::size_t> pages() const {
-    std::vector<std::size_t> result;
-    for (std::size_t i = 0; i < design().controls.size(); ++i)
-      if (design().controls[i].parent == control_ && design().controls[i].type == kPage)
-        result.push_back(i);
-    return result;
+  ObjectRef parent() const {
+    const std::size_t holder = self().parent;
+    if (holder == ControlModel::kNoParent) return makeDesign(sessionRef(), openRef());
+    return makeControl(sessionRef(), openRef(), holder);
   }
 
   // Name and ControlType, where they are not recorded, then the recorded properties.

@@ -1,8 +1,6 @@
 // Forms and reports.
-#include <numeric>
 #include <utility>
 
-#include "access/model/design_errors.h"
 #include "access/model/design_objects.h"
 #include "access/model/module_object.h"
 
@@ -16,43 +14,43 @@ class FormOrReport : public DesignObject {
       : DesignObject(std::move(session), std::move(open)) {}
 
  protected:
-  Value read(const MemberUse& use) override {
+  Reading tryRead(const MemberUse& use) override {
     const Recorded<Value>* recorded = design().properties.valueOf(use.key);
-    if (recorded && recorded->error()) recorded->error()->raise(use.name);
+    if (recorded && recorded->error()) return readingOf(*recorded, use.name);
     switch (use.member()) {
       case Member::kName:
-        return design().name;
+        return answered(design().name);
       case Member::kParent:
-        raise(design_error::kInvalidParent);
+        return failed(design_error::kInvalidParent);
       case Member::kControls:
-        return collectionOrItem(controls(), use);
+        return answered(collectionOrItem(controls(), use));
       case Member::kProperties:
-        return collectionOrItem(
+        return answered(collectionOrItem(
             propertyCollection(sessionRef(),
                                std::shared_ptr<const PropertyBag>(openRef(), &design().properties)),
-            use);
+            use));
       case Member::kSection:
-        return section(use.argument(0));
+        return answered(section(use.argument(0)));
       case Member::kGroupLevel:
-        return groupLevel(use.argument(0));
+        return answered(groupLevel(use.argument(0)));
       case Member::kDefault:
-        return defaultMember(use.argument(0));
+        return answered(defaultMember(use.argument(0)));
       default:
         break;
     }
-    if (recorded) return recorded->read(use.name);
+    if (recorded) return readingOf(*recorded, use.name);
     switch (use.member()) {
       case Member::kCount:
-        return static_cast<std::int32_t>(design().controls.size());
+        return answered(static_cast<std::int32_t>(design().controls.size()));
       case Member::kHasModule:
-        return design().module.get().has_value();
+        return answered(design().module.get().has_value());
       case Member::kModule:
-        if (design().module.get()) return makeClassModule(sessionRef(), openRef());
+        if (design().module.get()) return answered(makeClassModule(sessionRef(), openRef()));
         break;
       default:
         break;
     }
-    raise(design_error::kNoField, use.name);
+    return failed(design_error::kNoField, use.name);
   }
 
   void write(const MemberUse& use, const Value& value) override {
@@ -63,24 +61,14 @@ class FormOrReport : public DesignObject {
   }
 
  private:
-  Value collectionOrItem(CollectionSource source, const MemberUse& use) {
-    if (!use.arguments.empty()) return collectionItem(source, use.argument(0));
-    return makeDesignCollection(sessionRef(), openRef(), std::move(source));
-  }
-
-  CollectionSource controls() {
-    std::vector<std::size_t> all(design().controls.size());
-    std::iota(all.begin(), all.end(), std::size_t{0});
-    return controlCollection(sessionRef(), openRef(), std::move(all), design_error::kNoField);
+  ControlSource controls(std::int32_t missing = design_error::kNoField) {
+    return controlSource(open().controlIndex().all(), design_error::kNoField, missing);
   }
 
   Value defaultMember(const Value& which) {
-    CollectionSource source = controls();
-    if (!open().isReport())
-      source.missingName = [](std::string_view name) {
-        raise(design_error::kNoFormOfThatName, name);
-      };
-    return collectionItem(source, which);
+    return collectionItem(
+        controls(open().isReport() ? design_error::kNoField : design_error::kNoFormOfThatName),
+        which);
   }
 
   Value section(const Value& which) {

@@ -3,9 +3,30 @@
 
 #include <memory>
 
+#include "access/model/design_errors.h"
 #include "access/model/model_object.h"
 
 namespace tarrowin {
+
+// Some of the controls as the source of a collection. An index past the end raises pastEnd, a name
+// that is not there the other number.
+class ControlSource {
+ public:
+  ControlSource(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
+                ControlList controls, std::int32_t pastEnd, std::int32_t missing);
+
+  std::size_t count() const { return controls_->size(); }
+  ObjectRef item(std::size_t index) const;
+  std::size_t find(std::string_view name) const;
+  [[noreturn]] void missingName(std::string_view name) const;
+  [[noreturn]] void missingIndex(std::int32_t index) const;
+
+ private:
+  std::shared_ptr<Session> session_;
+  std::shared_ptr<OpenDesign> open_;
+  ControlList controls_;
+  std::int32_t pastEnd_, missing_;
+};
 
 // An object of an open form or report. Once that is closed, every use raises 2467.
 class DesignObject : public SessionObject {
@@ -14,6 +35,16 @@ class DesignObject : public SessionObject {
       : SessionObject(std::move(session)), open_(std::move(open)) {}
 
   const NameTable& names() const final;
+  // Raises what tryRead gives as an error: objects answer there alone.
+  Value read(const MemberUse& use) final;
+  Reading tryRead(const MemberUse& use) override = 0;
+
+  // What a member gives that is a collection: itself, or with an argument one of its items.
+  template <class Source>
+  Value collectionOrItem(const Source& source, const MemberUse& use) const;
+  // Some of the design's controls.
+  ControlSource controlSource(ControlList controls, std::int32_t pastEnd = design_error::kNoField,
+                              std::int32_t missing = design_error::kNoField) const;
   const DesignModel& design() const { return open_->design(); }
   OpenDesign& open() const { return *open_; }
   const std::shared_ptr<OpenDesign>& openRef() const { return open_; }
@@ -21,6 +52,18 @@ class DesignObject : public SessionObject {
  private:
   std::shared_ptr<OpenDesign> open_;
 };
+
+// A collection that is alive as long as the form or report is open.
+ObjectRef makeDesignCollection(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
+                               CollectionSource source);
+ObjectRef makeDesignCollection(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
+                               ControlSource source);
+
+template <class Source>
+Value DesignObject::collectionOrItem(const Source& source, const MemberUse& use) const {
+  if (!use.arguments.empty()) return collectionItem(source, use.argument(0));
+  return makeDesignCollection(sessionRef(), openRef(), source);
+}
 
 // Form or Report: its properties; Controls, Section(n), GroupLevel(n), Properties, HasModule,
 // Module, Count, Parent (raises 2452); the default member is a control by name or index.
@@ -38,16 +81,6 @@ ObjectRef makeControl(std::shared_ptr<Session> session, std::shared_ptr<OpenDesi
 
 ObjectRef makeGroupLevel(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
                          std::size_t level);
-
-// A collection that is alive as long as the form or report is open.
-ObjectRef makeDesignCollection(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
-                               CollectionSource source);
-
-// The controls at these positions as a collection. An index past the end raises pastEnd, a
-// name that is not there 2465.
-CollectionSource controlCollection(std::shared_ptr<Session> session,
-                                   std::shared_ptr<OpenDesign> open,
-                                   std::vector<std::size_t> positions, std::int32_t pastEnd);
 
 // Properties by name or 0-based index, each with Name and Value: 2455 for a name that is not
 // there, 2480 for an index. The list goes by value since a change of the design moves it.

@@ -1,7 +1,6 @@
 // Sections and group levels.
 #include <utility>
 
-#include "access/model/design_errors.h"
 #include "access/model/design_objects.h"
 
 namespace tarrowin {
@@ -14,27 +13,25 @@ class Section : public DesignObject {
       : DesignObject(std::move(session), std::move(open)), section_(section) {}
 
  protected:
-  Value read(const MemberUse& use) override {
+  Reading tryRead(const MemberUse& use) override {
     const SectionModel& section = design().sections[section_];
     if (const Recorded<Value>* recorded = section.properties.valueOf(use.key))
-      return recorded->read(use.name);
+      return readingOf(*recorded, use.name);
     switch (use.member()) {
       case Member::kParent:
-        return makeDesign(sessionRef(), openRef());
+        return answered(makeDesign(sessionRef(), openRef()));
       case Member::kControls:
-        return collectionOrItem(
-            controlCollection(
-                sessionRef(), openRef(),
-                open().controlsOfSection(static_cast<NameId>(Member::kSection), section.number),
-                design_error::kObjectClosed),
-            use);
+        return answered(
+            collectionOrItem(controlSource(open().controlIndex().ofSection(section.number),
+                                           design_error::kObjectClosed),
+                             use));
       case Member::kProperties:
-        return collectionOrItem(
+        return answered(collectionOrItem(
             propertyCollection(sessionRef(),
                                std::shared_ptr<const PropertyBag>(openRef(), &section.properties)),
-            use);
+            use));
       default:
-        raise(kErrNoSuchMember, use.name);
+        return failed(kErrNoSuchMember, use.name);
     }
   }
 
@@ -47,11 +44,6 @@ class Section : public DesignObject {
   }
 
  private:
-  Value collectionOrItem(CollectionSource source, const MemberUse& use) {
-    if (!use.arguments.empty()) return collectionItem(source, use.argument(0));
-    return makeDesignCollection(sessionRef(), openRef(), std::move(source));
-  }
-
   std::size_t section_;
 };
 
@@ -61,16 +53,16 @@ class GroupLevel : public DesignObject {
       : DesignObject(std::move(session), std::move(open)), level_(level) {}
 
  protected:
-  Value read(const MemberUse& use) override {
+  Reading tryRead(const MemberUse& use) override {
     const PropertyBag& properties = design().groupLevels[level_];
     if (const Recorded<Value>* recorded = properties.valueOf(use.key))
-      return recorded->read(use.name);
-    if (use.member() == Member::kParent) return makeDesign(sessionRef(), openRef());
-    if (use.member() != Member::kProperties) raise(kErrNoSuchMember, use.name);
-    CollectionSource source = propertyCollection(
-        sessionRef(), std::shared_ptr<const PropertyBag>(openRef(), &properties));
-    if (!use.arguments.empty()) return collectionItem(source, use.argument(0));
-    return makeDesignCollection(sessionRef(), openRef(), std::move(source));
+      return readingOf(*recorded, use.name);
+    if (use.member() == Member::kParent) return answered(makeDesign(sessionRef(), openRef()));
+    if (use.member() != Member::kProperties) return failed(kErrNoSuchMember, use.name);
+    return answered(collectionOrItem(
+        propertyCollection(sessionRef(),
+                           std::shared_ptr<const PropertyBag>(openRef(), &properties)),
+        use));
   }
 
  private:

@@ -12,28 +12,11 @@ const Value& MemberUse::argument(std::size_t index) const {
 
 void NamedObject::write(const MemberUse& use, const Value&) { raise(kErrNoSuchMember, use.name); }
 
-ObjectRef collectionItem(const CollectionSource& source, const Value& which) {
-  if (const std::string* name = which.text()) {
-    const std::size_t index = source.find(*name);
-    if (index >= source.count()) source.missingName(*name);
-    return source.item(index);
-  }
-  const std::int32_t index = toLong(which);
-  if (index < 0 || static_cast<std::size_t>(index) >= source.count()) source.missingIndex(index);
-  return source.item(static_cast<std::size_t>(index));
-}
-
-Value readCollection(const CollectionSource& source, const MemberUse& use) {
-  switch (use.member()) {
-    case Member::kCount:
-      return static_cast<std::int32_t>(source.count());
-    case Member::kDefault:
-    case Member::kItem:
-      return collectionItem(source, use.argument(0));
-    case Member::kRefresh:
-      return {};
-    default:
-      raise(kErrNoSuchMember, use.name);
+Reading NamedObject::tryGet(std::string_view name, Arguments arguments) {
+  try {
+    return tryRead({names().find(name), name, arguments});
+  } catch (const VbError& error) {
+    return {{}, error};
   }
 }
 

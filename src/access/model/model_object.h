@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string_view>
+#include <utility>
 
 #include "access/model/session.h"
 #include "core/access_object.h"
@@ -20,12 +21,24 @@ struct MemberUse {
   const Value& argument(std::size_t index) const;
 };
 
+// The two outcomes of a read; an error gets the standard text of its number.
+inline Reading answered(Value value) { return {std::move(value), std::nullopt}; }
+inline Reading failed(std::int32_t number, std::string_view name = {}) {
+  return {{}, VbError::standard(number, name)};
+}
+// The outcome that is recorded, the name standing in an error's text.
+inline Reading readingOf(const Recorded<Value>& recorded, std::string_view name) {
+  if (const RecordedError* error = recorded.error()) return {{}, error->asError(name)};
+  return {*recorded.ifRead(), std::nullopt};
+}
+
 // Answers get and call alike, since automation does not tell them apart for members with arguments.
 class NamedObject : public AccessObject {
  public:
   Value get(std::string_view name, Arguments arguments = {}) final {
     return read({names().find(name), name, arguments});
   }
+  Reading tryGet(std::string_view name, Arguments arguments = {}) final;
   Value call(std::string_view name, Arguments arguments = {}) final {
     return invoke({names().find(name), name, arguments});
   }
@@ -37,6 +50,8 @@ class NamedObject : public AccessObject {
   // The table that turns names into keys.
   virtual const NameTable& names() const { return memberNames(); }
   virtual Value read(const MemberUse& use) = 0;
+  // The same, where errors that are the rule come back in the reading. Others may be raised here.
+  virtual Reading tryRead(const MemberUse& use) { return answered(read(use)); }
   virtual Value invoke(const MemberUse& use) { return read(use); }
   virtual void write(const MemberUse& use, const Value& value);
 };
@@ -70,10 +85,35 @@ struct CollectionSource {
 // its session; one without a session lives for ever.
 ObjectRef makeCollection(std::shared_ptr<Session> session, CollectionSource source);
 
-// One item of a collection by the argument given: a text is a name, a number an index.
-ObjectRef collectionItem(const CollectionSource& source, const Value& which);
+// One item of a collection by the argument given: a text is a name, a number an index. The source
+// is a CollectionSource, or has its members as functions.
+template <class Source>
+ObjectRef collectionItem(const Source& source, const Value& which) {
+  if (const std::string* name = which.text()) {
+    const std::size_t index = source.find(*name);
+    if (index >= source.count()) source.missingName(*name);
+    return source.item(index);
+  }
+  const std::int32_t index = toLong(which);
+  if (index < 0 || static_cast<std::size_t>(index) >= source.count()) source.missingIndex(index);
+  return source.item(static_cast<std::size_t>(index));
+}
+
 // The members that every collection has: Count, Item, Refresh.
-Value readCollection(const CollectionSource& source, const MemberUse& use);
+template <class Source>
+Value readCollection(const Source& source, const MemberUse& use) {
+  switch (use.member()) {
+    case Member::kCount:
+      return static_cast<std::int32_t>(source.count());
+    case Member::kDefault:
+    case Member::kItem:
+      return collectionItem(source, use.argument(0));
+    case Member::kRefresh:
+      return {};
+    default:
+      raise(kErrNoSuchMember, use.name);
+  }
+}
 
 // Raises 3265 for DAO's collections.
 CollectionSource daoCollection(std::function<std::size_t()> count,

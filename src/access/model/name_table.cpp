@@ -30,7 +30,8 @@ NameId NameTable::findKey(std::string_view name, std::uint32_t hash) const {
   for (std::size_t slot = hash & mask;; slot = (slot + 1) & mask) {
     const NameId id = slots_[slot];
     if (id == kNoName) return kNoName;
-    if (entries_[id].hash == hash && folding_.equal(entries_[id].text, name)) return id;
+    const Entry& entry = entries_[id];
+    if (entry.hash == hash && (entry.text == name || folding_.equal(entry.text, name))) return id;
   }
 }
 

@@ -18,7 +18,7 @@ struct RecordedError {
   std::optional<std::string> description;
 
   VbError asError(std::string_view name) const {
-    return {number, description ? *description : standardErrorText(number, name)};
+    return description ? VbError(number, *description) : VbError::standard(number, name);
   }
   [[noreturn]] void raise(std::string_view name) const { throw asError(name); }
 };

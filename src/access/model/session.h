@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "access/model/control_index.h"
 #include "access/model/database_model.h"
 #include "access/record_source/record_source.h"
 
@@ -22,15 +23,15 @@ class OpenDesign {
   const DesignModel* source() const { return source_; }
   const DesignModel& design() const { return *design_; }
   bool isReport() const { return isReport_; }
-  // The copy for changes.
+  // The copy for changes, which are to be made before anything else is asked.
   DesignModel& edit();
 
   bool isOpen() const { return open_; }
   // Closes it with all that is loaded in its subform controls.
   void close();
 
-  // The positions of the controls whose Section property is the number.
-  const std::vector<std::size_t>& controlsOfSection(NameId sectionKey, std::int32_t number) const;
+  // Of the controls as they look now: made anew after each edit().
+  ControlIndex& controlIndex();
   // What the subform control at the position shows, loaded once; empty until it is set.
   std::shared_ptr<OpenDesign>& loadedIn(std::size_t control) { return loaded_[control]; }
 
@@ -40,7 +41,7 @@ class OpenDesign {
   std::unique_ptr<DesignModel> copy_;
   bool isReport_;
   bool open_ = true;
-  mutable std::optional<std::unordered_map<std::int32_t, std::vector<std::size_t>>> bySection_;
+  std::optional<ControlIndex> controlIndex_;
   std::unordered_map<std::size_t, std::shared_ptr<OpenDesign>> loaded_;
 };
 
