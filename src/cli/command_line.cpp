@@ -72,6 +72,7 @@ class CommandLine {
   }
   void addList();
   void addConvert();
+  void addMachinePaths(CLI::App& command);
   void addKind(CLI::App& command, const ObjectKind& kind, CLI::Option& all);
   void addRecord();
   void addPreview();
@@ -109,13 +110,37 @@ void CommandLine::addConvert() {
   for (const ObjectKind& kind : kObjectKinds) addKind(*command, kind, *all);
   command->add_flag("--single-file", convert_.singleFile,
                     "Convert several queries into a single module file");
+  command->add_flag("--data-repeater", convert_.dataRepeater,
+                    "Convert a continuous form through a DataRepeater: a user control with a "
+                    "project of its own, and the form that hosts it");
+  command
+      ->add_option("--startup-form", convert_.startupForm,
+                   "The form that projects start with; that of the database unless given")
+      ->option_text("FORM");
+  addMachinePaths(*command);
   addCodePage(*command, convert_.codePage);
   command->add_flag("--json", convert_.json, "Print JSON for a program to read");
   command->footer(
       "A kind without names means all of its list. Several kinds are converted in the order\n"
       "queries, forms, reports, macros, modules, project. Questions of the program are answered\n"
-      "with yes. More than 2820 queries are converted in several batches, unless they go into a\n"
-      "single file. A \"--\" ends the names.\n");
+      "with yes, only the one whether to stop with no. More than 2820 queries are converted in\n"
+      "several batches, unless they go into a single file. A \"--\" ends the names.\n"
+      "\n"
+      "Projects name system files by their paths on the machine that will load them. These are\n"
+      "in C:\\WINDOWS\\system32\\, C:\\Program Files\\Common Files\\Designer\\ and C:\\Program\n"
+      "Files\\Common Files\\SYSTEM\\ADO\\ unless given; one given as \"\" counts as unknown.\n");
+}
+
+void CommandLine::addMachinePaths(CLI::App& command) {
+  MachinePaths& machine = convert_.machine;
+  const auto add = [&command](const char* option, std::optional<std::string>& path,
+                              const std::string& description) {
+    command.add_option(option, path, description)->option_text("DIR");
+  };
+  add("--system-dir", machine.systemDir,
+      "Windows system directory of the machine that will load the projects");
+  add("--msderun-path", machine.msderunPath, "Directory of msderun.dll on that machine");
+  add("--msado-path", machine.msadoPath, "Directory of msado15.dll on that machine");
 }
 
 void CommandLine::addKind(CLI::App& command, const ObjectKind& kind, CLI::Option& all) {

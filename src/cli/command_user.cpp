@@ -22,6 +22,19 @@ std::string withPlainLineEnds(std::string_view text) {
   return plain;
 }
 
+Answer answerTo(int style) {
+  if (!message_style::asksYesNo(style)) return Answer::kOk;
+  // The one question with this style is whether to stop the program over a form that Access refuses
+  // to open, so that the user can open the database again by hand. Nobody sits here who could, and
+  // the other objects may still convert: the form is skipped and counts as not converted.
+  return style == message_style::kYesNoCritical ? Answer::kNo : Answer::kYes;
+}
+
+std::string_view shownAnswer(Answer answer) {
+  if (answer == Answer::kOk) return "";
+  return answer == Answer::kYes ? " Yes" : " No";
+}
+
 }  // namespace
 
 void CommandUser::beginBatch(std::string_view words, std::size_t selected) {
@@ -37,11 +50,11 @@ void CommandUser::endBatch() { console_.endProgress(); }
 Answer CommandUser::messageBox(int style, std::string_view text, std::string_view title) {
   static_cast<void>(title);
   std::string shown = withPlainLineEnds(codePage_.toUtf8(text));
-  const bool question = message_style::asksYesNo(style);
-  console_.message(question ? shown + " Yes" : shown);
+  const Answer answer = answerTo(style);
+  console_.message(shown + std::string(shownAnswer(answer)));
   messages_.push_back(std::move(shown));
   if (isCritical(style)) sawFailure_ = true;
-  return question ? Answer::kYes : Answer::kOk;
+  return answer;
 }
 
 std::string CommandUser::openFile(const OpenDialog& dialog) {

@@ -1,5 +1,5 @@
-// The user of the one-shot commands: chooses the named source, answers every question with yes, and
-// shows boxes on standard error.
+// The user of the one-shot commands: chooses the named source, answers every question with yes but
+// the one whether to stop the program, and shows boxes on standard error.
 #pragma once
 
 #include <string>

@@ -27,6 +27,14 @@ namespace {
 // parts.
 constexpr std::size_t kMostQueriesAtOnce = 2820;
 
+MachinePaths inCodePage(const CodePage& codePage, MachinePaths machine) {
+  for (std::optional<std::string>* path :
+       {&machine.systemDir, &machine.msderunPath, &machine.msadoPath}) {
+    if (*path) *path = pathInCodePage(codePage, **path);
+  }
+  return machine;
+}
+
 class Conversion {
  public:
   Conversion(const Environment& environment, const ConvertOptions& options)
@@ -35,7 +43,7 @@ class Conversion {
         codePage_(options.codePage),
         directory_(absolutePath(environment.workingDirectory, options.directory)),
         directoryInPage_(pathInCodePage(codePage_, directory_)),
-        opened_(environment, codePage_, options.source) {}
+        opened_(environment, codePage_, options.source, inCodePage(codePage_, options.machine)) {}
 
   ExitStatus run() {
     checkNames();
@@ -43,6 +51,8 @@ class Conversion {
     MainWindow& window = opened_.main().window;
     window.txtCurDir = directoryInPage_;
     window.chkMultiSel = options_.singleFile ? 1 : 0;
+    window.optContinuous = options_.dataRepeater ? 1 : 0;
+    if (options_.startupForm) window.cboFormNames = codePage_.fromUtf8(*options_.startupForm);
     for (const ObjectKind& kind : kObjectKinds) {
       if (isWanted(kind)) convert(kind);
     }
@@ -89,7 +99,11 @@ void Conversion::checkNames() {
   for (const ObjectKind& kind : kObjectKinds) {
     std::set<std::string> present;
     for (const ListItem& item : list(kind)) present.insert(item.text);
-    for (const std::string& name : selection(kind).names) {
+    std::vector<std::string> names = selection(kind).names;
+    if (kind.list == ObjectList::kForms && options_.startupForm) {
+      names.push_back(*options_.startupForm);
+    }
+    for (const std::string& name : names) {
       if (present.contains(codePage_.fromUtf8(name))) continue;
       if (!missing.empty()) missing += '\n';
       missing +=

@@ -3,11 +3,13 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/environment.h"
 #include "cli/exit_status.h"
+#include "core/machine_paths.h"
 #include "core/main_window.h"
 #include "shared/code_page.h"
 
@@ -25,8 +27,11 @@ struct ConvertOptions {
   std::array<KindSelection, kObjectListCount> kinds;  // by ObjectList
   bool all = false;                                   // every kind that has objects
   bool singleFile = false;                            // chkMultiSel
+  bool dataRepeater = false;                          // the second choice of optContinuous
+  std::optional<std::string> startupForm;             // cboFormNames, UTF-8
   bool json = false;
   int codePage = CodePage::kWestern;
+  MachinePaths machine;  // UTF-8
 };
 
 // Works through the kinds in the order of kObjectKinds. Nothing is written, and the directory is

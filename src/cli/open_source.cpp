@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "cli/exit_status.h"
 #include "cli/paths.h"
@@ -35,11 +36,12 @@ std::string reasonOfHost(MainObject& main, const CodePage& codePage, const std::
 }  // namespace
 
 OpenedSource::OpenedSource(const Environment& environment, const CodePage& codePage,
-                           const std::string& source)
+                           const std::string& source, MachinePaths machine)
     : path_(absolutePath(environment.workingDirectory, source)),
       user_(environment.console, codePage),
       run_(environment, user_, codePage, environment.workingDirectory) {
   if (source.empty()) throw CommandFailure("the name of the source is empty");
+  main().machine = std::move(machine);
   user_.choosePath(pathInCodePage(codePage, path_));
   clickButton(main(), "cmdOpen");
   const bool open = !main().state.mblnOpenFailed && !main().state.gstrDbPath.empty();

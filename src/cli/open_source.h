@@ -13,9 +13,11 @@ namespace tarrowin {
 // A run of the program with its source open.
 class OpenedSource {
  public:
-  // Opens the source, a path relative to the working directory. Throws CommandFailure naming file
+  // Opens the source, a path relative to the working directory, for the machine of those paths,
+  // which are in the code page. Throws CommandFailure naming file
   // and reason when the program cannot use it; its boxes have been shown by then.
-  OpenedSource(const Environment& environment, const CodePage& codePage, const std::string& source);
+  OpenedSource(const Environment& environment, const CodePage& codePage, const std::string& source,
+               MachinePaths machine = {});
 
   MainObject& main() { return run_.main(); }
   FileSlots& files() { return run_.files(); }

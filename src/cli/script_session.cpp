@@ -58,7 +58,7 @@ void ScriptSession::perform(const Set& step) {
   if (step.chkMultiSel) window.chkMultiSel = *step.chkMultiSel;
   if (step.optContinuous) window.optContinuous = *step.optContinuous;
   if (step.optMultiPage) window.optMultiPage = *step.optMultiPage;
-  if (step.tabSelect) window.tabSelect = *step.tabSelect;
+  if (step.tabSelect) selectTab(main(), *step.tabSelect);
 }
 
 void ScriptSession::perform(const Select& step) {
@@ -96,16 +96,16 @@ void ScriptSession::perform(const Answers& step) { user_.queueAnswers(step.answe
 void ScriptSession::perform(const Config& step) {
   const auto take = [this](std::optional<std::string>& member,
                            const std::optional<std::string>& given) {
-    if (given) member = given->empty() ? *given : resolved(*given);
+    if (given) member = codePage_.fromUtf8(*given);
   };
-  take(config_.systemDir, step.config.systemDir);
-  take(config_.msderunPath, step.config.msderunPath);
-  take(config_.msadoPath, step.config.msadoPath);
+  MachinePaths& machine = main().machine;
+  take(machine.systemDir, step.machine.systemDir);
+  take(machine.msderunPath, step.machine.msderunPath);
+  take(machine.msadoPath, step.machine.msadoPath);
 }
 
 void ScriptSession::perform(const Reset&) {
   user_.reset();
-  config_ = {};
   startRun();
 }
 

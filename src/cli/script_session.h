@@ -24,8 +24,6 @@ class ScriptSession {
   // in the transcript.
   void run(const ScriptStep& step);
 
-  // What the script's "config" steps said, for the run that is under way.
-  const MachineConfig& config() const { return config_; }
   MainObject& main() { return run_->main(); }
   FileSlots& files() { return run_->files(); }
 
@@ -47,7 +45,6 @@ class ScriptSession {
   CodePage codePage_;
   std::string folder_;
   ScriptUser user_;
-  MachineConfig config_;
   std::unique_ptr<ProgramRun> run_;
 };
 

@@ -139,19 +139,19 @@ ScriptStep readAnswers(const Json& step) {
 ScriptStep readConfig(const Json& step) {
   const Json& members = step["config"];
   if (!members.is_object()) fail("\"config\" must be an object");
-  MachineConfig config;
+  MachinePaths machine;
   for (const auto& [name, value] : members.items()) {
     if (name == "systemDir") {
-      config.systemDir = textOf(value, name);
+      machine.systemDir = textOf(value, name);
     } else if (name == "msderunPath") {
-      config.msderunPath = textOf(value, name);
+      machine.msderunPath = textOf(value, name);
     } else if (name == "msadoPath") {
-      config.msadoPath = textOf(value, name);
+      machine.msadoPath = textOf(value, name);
     } else {
       fail("\"config\" has no member " + inQuotes(name));
     }
   }
-  return Config{config};
+  return Config{machine};
 }
 
 ScriptStep readReset(const Json& step) {

@@ -8,16 +8,12 @@
 #include <variant>
 #include <vector>
 
+#include "core/machine_paths.h"
 #include "core/main_window.h"
 
 namespace tarrowin {
 
-// What the machine would supply; members that a step does not name stay as they are.
-struct MachineConfig {
-  std::optional<std::string> systemDir, msderunPath, msadoPath;
-};
-
-// Texts are UTF-8 and paths as written in the script.
+// Texts are UTF-8 and paths as written in the script. Those of another machine are never resolved.
 namespace script_step {
 struct Open {
   std::string path;  // empty for a cancelled dialog
@@ -43,7 +39,7 @@ struct Answers {
   std::deque<std::string> answers;
 };
 struct Config {
-  MachineConfig config;
+  MachinePaths machine;  // what is not named stays as it is
 };
 struct Reset {};
 }  // namespace script_step

@@ -4,6 +4,7 @@
 #include "codeconv/code_procedure.h"
 #include "codeconv/generated_statements.h"
 #include "codeconv/line_rewriter.h"
+#include "shared/value_tests.h"
 #include "shared/vb_text.h"
 
 namespace tarrowin {
@@ -87,7 +88,7 @@ bool FormCode::hasCodeToExport() {
   if (state_.mblnReportMode) return false;
   bool has = false;
   procedure_.statement([&] {
-    has = toBoolean(state_.frmCurr.get("HasModule")) &&
+    has = isTrue(state_.frmCurr.get("HasModule")) &&
           Val(state_.gappAccess.CurrentDb().text("Version")) > kAccess97Version;
   });
   return has;

@@ -88,6 +88,7 @@ void BatchDriver::finish(double startTime) {
   window.lblCurDb.visible = true;
   window.lblPct.caption.clear();
   window.lblPercent.caption.clear();
+  if (member_.list == ObjectList::kForms) window.lblPercent.visible = false;
   ProgressBar& bar = window.ProgressBar1[indexOf(member_.list)];
   bar.visible = false;
   bar.value = bar.min;
@@ -108,6 +109,7 @@ Resume BatchDriver::onError(const VbError& error) {
                                                       selectedName_ + ".");
     return Resume::kNext;
   }
+  if (reaction == BatchReaction::kAutoExec) return askToStop();
   main_.errorBox(member_.procedure, error);
   if (reaction == BatchReaction::kBoxGoOn) return Resume::kNext;
   if (reaction == BatchReaction::kBoxEchoEnd) {
@@ -115,6 +117,24 @@ Resume BatchDriver::onError(const VbError& error) {
   }
   main_.window.mousePointer = kDefaultPointer;
   return reaction == BatchReaction::kBoxPointerGoOn ? Resume::kNext : Resume::kLeave;
+}
+
+Resume BatchDriver::askToStop() {
+  const Answer answer = main_.messageBox(
+      message_style::kYesNoCritical,
+      "Unable to open Form '" + selectedName_ +
+          "'. This may be due to an AutoExec macro running in the database. It is recommended that "
+          "you stop the program and while holding the Shift-key down, open the database again. "
+          "\r\n\r\nIf you do not stop the program, none of the Objects in the database will be "
+          "converted.\r\n\r\nStop the program now?");
+  if (answer != Answer::kYes) return Resume::kNext;
+  Application& access = main_.state.gappAccess;
+  ignoringErrors([&] { access.CloseCurrentDatabase(); });
+  ignoringErrors([&] { access.doCmd().Hourglass(false); });
+  ignoringErrors([&] { access.Quit(access_constants::acQuitSaveAll); });
+  access = {};
+  main_.user.programEnded();
+  return Resume::kLeave;
 }
 
 void BatchDriver::showProgress() {

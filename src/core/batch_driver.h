@@ -20,6 +20,7 @@ enum class BatchReaction {
   kBoxPointerGoOn,  // the error box, hourglass off, and goes on
   kBoxEnd,          // the error box, hourglass off, and the driver ends
   kBoxEchoEnd,      // as kBoxEnd, and Access paints its screen again
+  kAutoExec,        // asks whether to stop the program; ends the driver with it, or goes on
 };
 
 struct BatchErrorRow {
@@ -95,6 +96,7 @@ class BatchDriver {
   bool readSelection(bool blnAll);
   void convert();
   Resume onError(const VbError& error);
+  Resume askToStop();
   void finish(double startTime);
 
   Procedure procedure_;

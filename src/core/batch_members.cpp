@@ -18,6 +18,7 @@ constexpr BatchErrorRow kQueryErrors[] = {
 };
 constexpr BatchErrorRow kFormErrors[] = {
     {2601, kNoPermission},
+    {2046, kAutoExec},
 };
 constexpr BatchErrorRow kReportErrors[] = {
     {2601, kNoPermission},
@@ -35,6 +36,7 @@ constexpr BatchErrorRow kObjectErrors[] = {
     {2450, kGoOn},
     {7961, kGoOn},
     {2601, kNoPermission},
+    {2046, kAutoExec},
 };
 
 // clang-format off

@@ -8,8 +8,15 @@
 
 #include "core/access_objects.h"
 #include "shared/growing_list.h"
+#include "shared/name_list.h"
 
 namespace tarrowin {
+
+// A subform whose controls are being printed.
+struct OpenSubForm {
+  LateBound form;
+  std::string name;  // what tells it from others
+};
 
 struct ConversionState {
   // The open database: from one opening to the next.
@@ -26,6 +33,11 @@ struct ConversionState {
   // The run of the program.
   std::string mstrLastDbPath;  // path of the last successful opening
   std::string mstrOutputDir;   // with a trailing separator after GetOutputDir
+  // Where the machine that loads the output has its libraries: directories with their final
+  // backslash, empty while unknown, and for DAO the file itself, of which nobody tells.
+  std::string mstrMsderunPath, mstrMsadoPath;  // set anew by every opening
+  std::string gstrOfficePath;                  // taken from mstrMsderunPath once
+  std::string gstrDaoPath;
 
   // The lists: names as they were found, in list order.
   GrowingList mstrQueryNames, mstrFormNames, mstrMacroNames, mstrModuleNames, mstrReportNames;
@@ -46,11 +58,27 @@ struct ConversionState {
   GrowingList mstrVbQueries;  // procedure name of each converted query
 
   // Batches of the other kinds.
-  bool mblnReportMode = false;   // a report is being converted
-  bool mblnUserControl = false;  // the user control of a continuous form is being written
-  GrowingList mstrVbClasses;     // file name of each class module
+  bool mblnReportMode = false;     // a report is being converted
+  bool mblnUserControl = false;    // the user control of a continuous form is being written
+  bool mblnDataRepeater = false;   // the form in hand is converted through a DataRepeater
+  bool gblnProjectNeeded = false;  // the batch needs a project; cleared as it starts
+  GrowingList mstrVbForms;         // gstrFormFile of each converted form
+  GrowingList mstrVbUserControls;  // gstrFormFile of each user control
+  GrowingList mstrVbReports;       // gstrFormFile of each converted report
+  GrowingList mstrVbModules;       // gstrModuleFile of each module of a project
+  GrowingList mstrVbClasses;       // file name of each class module
+  GrowingList mstrBigForms;        // note of each form with too many controls
   // At least one module was converted; no driver ever clears it.
   bool mblnModuleConverted = false;
+
+  // What the project needs, a control library each. The printers set them and nothing clears them:
+  // they accumulate over all forms of the run.
+  bool mblnAdoDataCtl = false;  // also the sign that bound controls refer to an ADO data control
+  bool blnUsesCalendar = false, blnUsesMsComCtl = false, blnUsesComCtl32 = false,
+       blnUsesComDlg = false, blnUsesDataGrid = false, blnUsesDbList = false,
+       blnUsesRichText = false, blnUsesTabCtl = false, blnUsesSubControl = false;
+  // A VB.Data control has been written: from then on bound controls print it as their source.
+  bool blnDataCtl = false;
 
   // The line of code in hand, changed in place by its rule, and the method of its DoCmd call. A
   // line that cannot be read leaves the one before.
@@ -59,6 +87,39 @@ struct ConversionState {
   // The form or report in hand: one object.
   LateBound frmCurr;       // as it is open in Access
   std::string strCtlName;  // output name of the control printed last
+
+  // The printing of a form. Positions and sizes are twips.
+  std::string strIndent;         // blanks in front of every line of a control: none, three or six
+  std::string strFrameName;      // the frame that is open, for its closing line
+  std::string strCleanText;      // what the last cleaning of a text gave
+  bool blnFirstControl = false;  // the next control of the walk is its first
+  bool blnInFrame = false, blnInOptionGroup = false, blnInTab = false;
+  std::int32_t intClientHeight = 0;
+  std::int32_t intNumControls = 0;  // Controls.Count - 1, and the Count of each subform
+  // Heights of Section(1), (3), (0), (4), (2); 0 for one that the form lacks.
+  std::int16_t intHeaderHeight = 0, intPageHeaderHeight = 0, intDetailHeight = 0,
+               intPageFooterHeight = 0, intFooterHeight = 0;
+  std::int16_t intGroupTop = 0;                              // Top of the option group in hand
+  std::int16_t intTabPageNum = 0;                            // page in hand, 0-based
+  std::int16_t intTabWidth = 0;                              // Width of the tab control in hand
+  std::int16_t intPageTopOffset = 0, intPageLeftOffset = 0;  // first page inside its tab control
+  NameList astrCtlNames;  // Access names of the form's controls, then of its subforms'
+  NameList astrDupNames;  // names of subform controls that astrCtlNames holds
+  GrowingList astrDataMembers;
+
+  // Subforms; the members are shared by all levels of nesting.
+  LateBound frmSubCurr;
+  std::string strSubFormName;  // the name by which the subform is reached
+  std::int16_t intSubLeft = 0, intSubHeight = 0, intSubWidth = 0;  // of the subform control
+  std::int16_t intSubHeaderHeight = 0, intSubPageHeaderHeight = 0, intSubDetailHeight = 0,
+               intSubPageFooterHeight = 0, intSubFooterHeight = 0;
+  std::int16_t intSubTotalHeight = 0;  // their sum and 120
+  std::int16_t intSubDepth = 0;        // nested subforms entered
+  std::int16_t intSubCount = 0;        // subforms finished
+  bool blnInSubForm = false, blnNestedSubForm = false;
+  bool blnSubInTab = false;  // the subform stands on a tab page
+  bool blnDupFound = false;  // a name clash between subform and form is known
+  std::vector<OpenSubForm> openSubForms;  // whose controls are being printed, outermost first
 
   // What the control printers leave for the code of a form. The flags hold until the next object
   // of ConvertForms and ConvertObjects, the statements until the next form, the item lists until
@@ -69,6 +130,9 @@ struct ConversionState {
   GrowingList astrPictureCode;   // whole statements: imgLogo.Picture = LoadPicture("...")
   GrowingList astrComboSources;  // control name + ";" + items with ";" between them
   GrowingList astrListSources;   // likewise
+
+  // Reports. The grouping member of the last grouped report of the run; nothing clears it.
+  std::string strDataMember;
 
   // Scratch list of the SQL text analysis, filled from element 0 on; two elements after a reset.
   std::vector<std::string> gstrSourceTables{2};

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 
+#include "core/library_paths.h"
 #include "core/main_object.h"
 #include "core/object_lists.h"
 #include "core/statement.h"
@@ -129,7 +130,8 @@ void Opening::open() {
 }
 
 bool Opening::choosePath() {
-  OpenDialog dialog;
+  OpenDialog& dialog = main_.window.CmnOpenDlg;
+  dialog.fileName.clear();
   dialog.dialogTitle = "Open a Microsoft Access Database";
   dialog.filter = "Access MDB Files (*.mdb)|*.mdb";
   dialog.initDir = state_.mstrLastDbPath;
@@ -247,6 +249,8 @@ void Opening::chooseStartForm() {
 void Opening::finish() {
   main_.window.lblCurDb.caption = path_;
   main_.window.txtCurDir = main_.files.CurDir();
+  FindDLLPath(main_, kMsderun);
+  FindDLLPath(main_, kMsado);
   main_.window.mousePointer = kDefaultPointer;
   main_.user.listsFilled(main_.window);
 }

@@ -21,6 +21,13 @@ void MainObject::errorBox(std::string_view procedure, const VbError& error) {
                                            LTrimStr(error.number()) + "\r\n" + error.description());
 }
 
+void MainObject::controlErrorBox(std::string_view procedure, std::string_view name,
+                                 const VbError& error) {
+  messageBox(message_style::kCritical, std::string(procedure) + "(" + std::string(name) +
+                                           ") - Error #" + LTrimStr(error.number()) + " " +
+                                           error.description());
+}
+
 double MainObject::Time() const {
   const double now = Now().days;
   return now - std::floor(now);

@@ -8,6 +8,7 @@
 
 #include "core/access_objects.h"
 #include "core/conversion_state.h"
+#include "core/machine_paths.h"
 #include "core/main_window.h"
 #include "core/user.h"
 #include "shared/vb_files.h"
@@ -32,6 +33,9 @@ struct MainObject {
   Answer messageBox(int style, std::string_view text);
   // The common error box: procedure + "() - Error #" + number + CR LF + description, style 16.
   void errorBox(std::string_view procedure, const VbError& error);
+  // The box of a procedure that names the control in hand: procedure + "(" + name + ") - Error #" +
+  // number + a blank + description, style 16.
+  void controlErrorBox(std::string_view procedure, std::string_view name, const VbError& error);
 
   User& user;
   FileSlots& files;
@@ -41,6 +45,7 @@ struct MainObject {
   // Visual Basic's Time: the time of day, as a fraction of a day.
   double Time() const;
 
+  MachinePaths machine;
   MainWindow window;
   ConversionState state;
   BatchOutcome lastBatch;

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "core/user.h"
+
 namespace tarrowin {
 
 // The six lists, numbered as the elements of the control array ProgressBar1.
@@ -89,6 +91,12 @@ struct MainWindow {
   Button cmdBrowse{"Browse Folders"};
   Button cmdObjProps;
   std::array<Button, 2> cmdFindPath;
+  // Headings of the two library paths, then the paths.
+  std::array<Label, 4> lblFindPath = {Label{"msderun.dll File:", true},
+                                      Label{"msado15.dll File:", true}, Label{"", true},
+                                      Label{"", true}};
+  // The one common dialog; what it was last set to stays.
+  OpenDialog CmnOpenDlg;
 
   // The pager of the How to tab.
   Label lblCurrentPage, lblLastPage;

@@ -21,9 +21,6 @@ class PendingBatch : public BatchDriver {
 
 }  // namespace
 
-void ConvertForms(MainObject& main, bool blnAll) {
-  PendingBatch(main, ObjectList::kForms).run(blnAll);
-}
 void ConvertReports(MainObject& main, bool blnAll) {
   PendingBatch(main, ObjectList::kReports).run(blnAll);
 }

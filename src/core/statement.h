@@ -82,4 +82,12 @@ bool ignoringErrors(Statement&& statement) {
   }
 }
 
+// A condition that cannot be read is false.
+template <class Condition>
+bool holds(Condition&& condition) {
+  bool result = false;
+  ignoringErrors([&] { result = condition(); });
+  return result;
+}
+
 }  // namespace tarrowin

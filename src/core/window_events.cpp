@@ -4,6 +4,8 @@
 #include <array>
 
 #include "core/database_opening.h"
+#include "core/form_batch.h"
+#include "core/library_paths.h"
 #include "core/main_object.h"
 #include "core/module_batch.h"
 #include "core/pending_batch.h"
@@ -44,9 +46,12 @@ void resetHowToPager(MainWindow& window) {
 }  // namespace
 
 bool clickButton(MainObject& main, std::string_view name, int index) {
-  static_cast<void>(index);
   if (name == "cmdOpen") {
     cmdOpen_Click(main);
+    return true;
+  }
+  if (name == "cmdFindPath") {
+    cmdFindPath_Click(main, index);
     return true;
   }
   for (const ListRow& row : kListRows) {
@@ -57,6 +62,17 @@ bool clickButton(MainObject& main, std::string_view name, int index) {
     return true;
   }
   return false;
+}
+
+void selectTab(MainObject& main, int tab) {
+  constexpr int kReportsTab = 2;
+  MainWindow& window = main.window;
+  if (tab == window.tabSelect) return;
+  window.tabSelect = tab;
+  if (tab != kReportsTab || window.list(ObjectList::kReports).empty()) return;
+  for (const int index : {kMsderun, kMsado}) {
+    if (libraryPathLabel(window, index).caption.empty()) cmdFindPath_Click(main, index);
+  }
 }
 
 void doubleClickList(MainObject& main, ObjectList list) {

@@ -15,6 +15,9 @@ struct MainObject;
 // button of that name.
 bool clickButton(MainObject& main, std::string_view name, int index = 0);
 
+// The user turns to a tab of tabSelect, 0 to 6.
+void selectTab(MainObject& main, int tab);
+
 // A double click on the list: its driver with the selection as it stands.
 void doubleClickList(MainObject& main, ObjectList list);
 

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarrowin {
 
@@ -16,6 +17,11 @@ class FileSystem {
   struct Status {
     bool directory = false;
     bool readOnly = false;  // nobody may write
+  };
+
+  struct Entry {
+    std::string name;
+    bool directory = false;  // a link to one is none
   };
 
   virtual ~FileSystem() = default;
@@ -32,6 +38,8 @@ class FileSystem {
   virtual int remove(const std::string& path) = 0;
   virtual int makeDirectory(const std::string& path) = 0;
   virtual int status(const std::string& path, Status& result) = 0;
+  // What stands in a directory, by name.
+  virtual int list(const std::string& path, std::vector<Entry>& entries) = 0;
 };
 
 class PosixFileSystem : public FileSystem {
@@ -43,6 +51,7 @@ class PosixFileSystem : public FileSystem {
   int remove(const std::string& path) override;
   int makeDirectory(const std::string& path) override;
   int status(const std::string& path, Status& result) override;
+  int list(const std::string& path, std::vector<Entry>& entries) override;
 };
 
 }  // namespace tarrowin

@@ -16,4 +16,8 @@ std::string DirectoryOf(std::string_view path) {
   return std::string(path.substr(0, nameStart(path)));
 }
 
+std::string StemOf(std::string_view fileName) {
+  return std::string(fileName.substr(0, fileName.find('.')));
+}
+
 }  // namespace tarrowin

@@ -18,5 +18,7 @@ inline constexpr char kPathSeparator = '/';
 std::string FileNameOf(std::string_view path);
 // The text up to and including the last "\" or "/"; empty when there is none.
 std::string DirectoryOf(std::string_view path);
+// The text before the first "."; the whole text when there is none.
+std::string StemOf(std::string_view fileName);
 
 }  // namespace tarrowin

@@ -1,5 +1,8 @@
 // The FileSystem by the system calls of POSIX, one call an operation where possible.
+#include <algorithm>
 #include <cerrno>
+#include <filesystem>
+#include <system_error>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -91,6 +94,20 @@ int PosixFileSystem::status(const std::string& path, Status& result) {
   result.directory = S_ISDIR(attributes.st_mode);
   result.readOnly = (attributes.st_mode & kAnyWrite) == 0;
   return 0;
+}
+
+int PosixFileSystem::list(const std::string& path, std::vector<Entry>& entries) {
+  std::error_code error;
+  std::filesystem::directory_iterator next(path, error);
+  entries.clear();
+  while (!error && next != std::filesystem::directory_iterator()) {
+    const bool directory = std::filesystem::is_directory(next->symlink_status(error));
+    // One that went away meanwhile, or tells nothing of itself, is a file.
+    entries.push_back({next->path().filename().string(), !error && directory});
+    next.increment(error);
+  }
+  std::ranges::sort(entries, {}, &Entry::name);
+  return error.value();
 }
 
 }  // namespace tarrowin

@@ -306,6 +306,15 @@ std::int32_t FileSlots::GetAttr(std::string_view path) {
   return (status.directory ? kAttrDirectory : 0) | (status.readOnly ? kAttrReadOnly : 0);
 }
 
+std::vector<FileSystem::Entry> FileSlots::Entries(std::string_view path) {
+  std::vector<FileSystem::Entry> entries;
+  const int error = fileSystem_.list(diskPath(path), entries);
+  if (isMissing(error)) return {};
+  if (error != 0) raise(errorNumber(error));
+  for (FileSystem::Entry& entry : entries) entry.name = codePage_.fromUtf8(entry.name);
+  return entries;
+}
+
 void FileSlots::ChDir(std::string_view path) {
   FileSystem::Status status;
   const int error = fileSystem_.status(diskPath(path), status);

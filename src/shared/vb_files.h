@@ -71,6 +71,10 @@ class FileSlots {
   // 16 for a directory, 1 for read-only, or both; 0 otherwise. 53 when absent, at whatever level.
   std::int32_t GetAttr(std::string_view path);
 
+  // What stands in a folder, by name, as Dir and the folder's collection of subfolders would tell
+  // it; nothing when the folder is missing. Raises 75 without permission.
+  std::vector<FileSystem::Entry> Entries(std::string_view path);
+
   // The current directory, without a separator behind it except for the root.
   const std::string& CurDir() const { return currentDirectory_; }
   // Raises 76 for what is no directory.

@@ -55,12 +55,12 @@ TEST_F(MdbModelTest, ContentsThatCannotBeOpenedYetSaySo) {
     };
     for (std::int32_t i = 0; i < number(documents("Forms"), "Count"); ++i, ++forms) {
       const std::string name = text(item(documents("Forms"), i), "Name");
-      EXPECT_EQ(errorOf([&] { openForm(name); }), 2121);
+      EXPECT_EQ(errorOf([&] { openForm(name); }), 2601);
       EXPECT_EQ(descriptionOf([&] { openForm(name); }),
                 "Microsoft Access can't open the form '" + name + "'.");
     }
     for (std::int32_t i = 0; i < number(documents("Reports"), "Count"); ++i, ++reports)
-      EXPECT_EQ(errorOf([&] { openReport(text(item(documents("Reports"), i), "Name")); }), 2103);
+      EXPECT_EQ(errorOf([&] { openReport(text(item(documents("Reports"), i), "Name")); }), 2601);
   }
   EXPECT_GT(forms, 0u);
   EXPECT_GT(reports, 0u);

@@ -52,6 +52,79 @@ TEST_F(ConvertProcess, ConvertNameThatIsNotInTheListWritesNothing) {
   EXPECT_FALSE(exists("out"));
 }
 
+TEST_F(ConvertProcess, ConvertAContinuousFormThroughADataRepeater) {
+  Json database = emptyDatabase();
+  const Json properties = {{"DefaultView", 1}, {"RecordSource", "Orders"}, {"OrderBy", ""}};
+  database["forms"] = Json::array({{{"name", "List"}, {"properties", properties}}});
+  writeFile(path("forms.access.json"), database.dump());
+  run({"convert", "forms.access.json", "--to", "plain", "--forms"});
+  EXPECT_EQ(fileNames(path("plain")), (Names{"List.frm"}));
+  run({"convert", "forms.access.json", "--to", "repeated", "--forms", "--data-repeater"});
+  EXPECT_EQ(fileNames(path("repeated")),
+            (Names{"List.frm", "List.vbg", "List.vbp", "ctlList.ctl", "ctlList.vbp"}));
+}
+
+TEST_F(ConvertProcess, ConvertWithAStartupForm) {
+  Json database = emptyDatabase();
+  for (const char* name : {"A", "B"}) {
+    const Json properties = {{"DefaultView", 0}, {"RecordSource", ""}};
+    database["forms"].push_back({{"name", name}, {"properties", properties}});
+  }
+  writeFile(path("forms.access.json"), database.dump());
+  run({"convert", "forms.access.json", "--to", "out", "--forms", "--startup-form", "B"});
+  EXPECT_NE(fileContent(path("out/Orders.vbp")).find("Startup=\"B\"\r\n"), std::string::npos);
+  const ProgramResult wrong =
+      run({"convert", "forms.access.json", "--to", "other", "--forms", "--startup-form", "C"});
+  EXPECT_EQ(wrong.status, 2);
+  EXPECT_EQ(wrong.err, "tarrowin-cli: forms.access.json: there is no form named \"C\"\n");
+  EXPECT_FALSE(exists("other"));
+}
+
+TEST_F(ConvertProcess, ConvertForTheMachineThatLoadsTheProject) {
+  Json database = emptyDatabase();
+  for (const char* name : {"A", "B"}) {
+    const Json properties = {{"DefaultView", 0}, {"RecordSource", ""}};
+    database["forms"].push_back({{"name", name}, {"properties", properties}});
+  }
+  write("forms.access.json", database.dump());
+  const ProgramResult result =
+      run({"convert", "forms.access.json", "--to", "out", "--forms", "--system-dir",
+           "D:\\M\xc3\xa4rz", "--msderun-path", "", "--msado-path", "D:\\ado\\"});
+  EXPECT_EQ(result.status, 0) << result.err;
+  const std::string project = fileContent(path("out/Orders.vbp"));
+  EXPECT_NE(project.find("#2.0#0#D:\\M\xe4rz\\stdole2.tlb#OLE Automation\r\n"), std::string::npos)
+      << project;
+  // Unknown: nothing stands before the file.
+  EXPECT_NE(project.find("#2.2#0#\\MSO.DLL#"), std::string::npos) << project;
+}
+
+TEST_F(ConvertProcess, ConvertForADirectoryOutsideTheCodePage) {
+  const ProgramResult result = run({"convert", "orders.access.json", "--to", "out", "--queries",
+                                    "--system-dir", "D:\\\xe6\x9c\x88"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.err,
+            "tarrowin-cli: D:\\\xe6\x9c\x88: the path has a character that code page 1252 lacks; "
+            "name another page with --code-page\n");
+  EXPECT_FALSE(exists("out"));
+}
+
+TEST_F(ConvertProcess, ConvertDoesNotStopOverAFormThatAccessRefusesToOpen) {
+  Json database = emptyDatabase();
+  database["forms"].push_back(
+      {{"name", "Locked"}, {"properties", Json::object()}, {"openError", 2046}});
+  database["forms"].push_back({{"name", "Open"}, {"properties", Json::object()}});
+  write("locked.access.json", database.dump());
+  const ProgramResult result = run({"convert", "locked.access.json", "--to", "out", "--forms"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.err.find("Unable to open Form 'Locked'. This may be due to an AutoExec macro"),
+            0u)
+      << result.err;
+  EXPECT_NE(result.err.find("Stop the program now? No\n"), std::string::npos) << result.err;
+  EXPECT_TRUE(result.err.ends_with("1 of 2 forms converted, with the failure told above\n"))
+      << result.err;
+  EXPECT_EQ(fileNames(path("out")), Names{"Open.frm"});
+}
+
 TEST_F(ConvertProcess, ConvertSomethingNotConvertedIsStatusOne) {
   Json database = emptyDatabase();
   database["queries"] = {query("Good", "SELECT 1;"), query("Secret", {{"error", 2601}})};

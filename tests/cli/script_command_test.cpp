@@ -111,7 +111,7 @@ TEST_F(ScriptCommand, DoubleClickMakesTheItemTheWholeSelection) {
 
 TEST_F(ScriptCommand, ButtonThatNothingAnswersYetIsPassedOver) {
   const CommandResult result =
-      run(R"([{"click": "cmdBrowse"}, {"click": "cmdFindPath", "index": 1}, {"open": ""}])");
+      run(R"([{"click": "cmdBrowse"}, {"click": "cmdNext"}, {"open": ""}])");
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.out, "");
 }
@@ -124,6 +124,37 @@ TEST_F(ScriptCommand, ResetIsAFreshRun) {
   // Opened again instead of being "already open", and the answer is forgotten with the rest.
   ASSERT_EQ(messages(result.out).size(), 2u) << result.out;
   EXPECT_EQ(fileNames(folder.path() / "new"), (std::vector<std::string>{"Alpha.bas", "Beta.bas"}));
+}
+
+TEST_F(ScriptCommand, ConfigNamesTheMachineInTheProjectsThatFollow) {
+  Json database = emptyDatabase();
+  for (const char* name : {"A", "B"}) {
+    database["forms"].push_back({{"name", name}, {"properties", Json::object()}});
+  }
+  write("forms.access.json", database.dump());
+  const CommandResult result = run(R"([
+    {"config": {"systemDir": "D:\\NT", "msderunPath": "D:\\dll\\"}},
+    {"open": "forms.access.json"}, {"set": {"txtCurDir": "out"}}, {"click": "cmdAllForms"}])");
+  EXPECT_EQ(result.status, 0) << result.err;
+  const std::string project = fileContent(folder.path() / "out" / "Orders.vbp");
+  EXPECT_NE(project.find("#2.0#0#D:\\NT\\stdole2.tlb#OLE Automation\r\n"), std::string::npos);
+  EXPECT_NE(project.find("#2.2#0#D:\\dll\\MSO.DLL#"), std::string::npos);
+}
+
+TEST_F(ScriptCommand, StoppingTheProgramEndsTheStepsUntilAReset) {
+  Json database = emptyDatabase();
+  database["forms"].push_back(
+      {{"name", "Locked"}, {"properties", Json::object()}, {"openError", 2046}});
+  write("locked.access.json", database.dump());
+  const CommandResult result = run(R"([
+    {"open": "locked.access.json"}, {"set": {"txtCurDir": "out"}}, {"answers": ["yes"]},
+    {"click": "cmdAllForms"}, {"click": "cmdAllQrys"},
+    {"reset": true}, {"open": "orders.access.json"}, {"click": "cmdConvertQry"}])");
+  EXPECT_EQ(result.status, 0) << result.err;
+  const std::vector<std::string> shown = messages(result.out);
+  ASSERT_EQ(shown.size(), 2u) << result.out;
+  EXPECT_TRUE(shown[0].ends_with("Stop the program now?"));
+  EXPECT_EQ(shown[1], "Please select a Query to convert from the displayed list first.");
 }
 
 TEST_F(ScriptCommand, UnknownItemsArePassedOverWithAWarning) {

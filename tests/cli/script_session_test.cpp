@@ -26,11 +26,29 @@ TEST_F(ScriptSessionTest, ConfigIsKeptMemberByMemberUntilAReset) {
   session.run(
       Config{{.systemDir = "sys/", .msderunPath = "C:\\dll\\msderun.dll", .msadoPath = {}}});
   session.run(Config{{.systemDir = {}, .msderunPath = {}, .msadoPath = ""}});
-  EXPECT_EQ(session.config().systemDir, "/case/sys/");
-  EXPECT_EQ(session.config().msderunPath, "C:\\dll\\msderun.dll");
-  EXPECT_EQ(session.config().msadoPath, "");
+  EXPECT_EQ(session.main().machine.systemDir, "sys/");
+  EXPECT_EQ(session.main().machine.msderunPath, "C:\\dll\\msderun.dll");
+  EXPECT_EQ(session.main().machine.msadoPath, "");
   session.run(Reset{});
-  EXPECT_EQ(session.config().systemDir, std::nullopt);
+  EXPECT_EQ(session.main().machine.systemDir, std::nullopt);
+  EXPECT_EQ(session.main().machine.msadoPath, std::nullopt);
+}
+
+TEST_F(ScriptSessionTest, ConfigBecomesTextOfTheCodePage) {
+  session.run(Config{{.systemDir = {}, .msderunPath = "D:\\M\xc3\xa4rz\\", .msadoPath = {}}});
+  EXPECT_EQ(session.main().machine.msderunPath, "D:\\M\xe4rz\\");
+}
+
+TEST_F(ScriptSessionTest, TurningToTheReportsTabAsksForThePathsThatAreNotShown) {
+  session.main().window.list(ObjectList::kReports).push_back({"Sales", "", false});
+  session.run(Answers{{"C:\\dll\\msderun.dll", "C:\\ado\\MSADO15.DLL"}});
+  Set set;
+  set.tabSelect = 2;
+  session.run(set);
+  EXPECT_EQ(session.main().state.mstrMsderunPath, "C:\\dll\\");
+  EXPECT_EQ(session.main().state.mstrMsadoPath, "");
+  ASSERT_EQ(transcript.size(), 1u);
+  EXPECT_EQ(transcript[0]["text"], "Please select the MSADO15.DLL file.");
 }
 
 TEST_F(ScriptSessionTest, ControlsAreSetAndResetPutsThemBack) {

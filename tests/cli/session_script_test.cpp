@@ -56,7 +56,7 @@ TEST(SessionScript, ReadsEveryStep) {
   EXPECT_EQ(std::get<DoubleClick>(steps[6]).item, "Orders");
   EXPECT_EQ(std::get<Answers>(steps[7]).answers,
             (std::deque<std::string>{"yes", "no", "ok", "C:\\dll\\msderun.dll"}));
-  EXPECT_EQ(std::get<Config>(steps[8]).config.msderunPath, "r");
+  EXPECT_EQ(std::get<Config>(steps[8]).machine.msderunPath, "r");
   EXPECT_TRUE(std::holds_alternative<Reset>(steps[9]));
 }
 

@@ -10,7 +10,7 @@
 
 namespace tarrowin::test {
 
-enum class Operation { kOpen, kRead, kWrite, kClose, kRemove, kMakeDirectory, kStatus };
+enum class Operation { kOpen, kRead, kWrite, kClose, kRemove, kMakeDirectory, kStatus, kList };
 
 class FaultyFileSystem : public FileSystem {
  public:
@@ -57,6 +57,10 @@ class FaultyFileSystem : public FileSystem {
   int status(const std::string& path, Status& result) override {
     const int error = step(Operation::kStatus);
     return error != 0 ? error : real_.status(path, result);
+  }
+  int list(const std::string& path, std::vector<Entry>& entries) override {
+    const int error = step(Operation::kList);
+    return error != 0 ? error : real_.list(path, entries);
   }
 
  private:

@@ -1,6 +1,8 @@
 // Numbered files and file statements on a real directory.
 #include "shared/vb_files.h"
 
+#include <cerrno>
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -265,6 +267,26 @@ TEST_F(Files, MkDirFailures) {
   EXPECT_RAISES(75, files.MkDir(directory.path()));
   EXPECT_RAISES(76, files.MkDir("file/below"));
   EXPECT_RAISES(75, files.MkDir(""));
+}
+
+TEST_F(Files, EntriesOfAFolderByName) {
+  directory.write("b.txt", "");
+  directory.write("M\xc3\xa4rz", "");
+  files.MkDir("a");
+  ASSERT_EQ(::symlink(".", (directory / "loop").c_str()), 0);
+  const std::vector<FileSystem::Entry> entries = files.Entries(directory.path());
+  ASSERT_EQ(entries.size(), 4u);
+  EXPECT_EQ(entries[0].name, "M\xe4rz");
+  EXPECT_EQ(entries[1].name, "a");
+  EXPECT_TRUE(entries[1].directory);
+  EXPECT_EQ(entries[2].name, "b.txt");
+  EXPECT_FALSE(entries[2].directory);
+  EXPECT_EQ(entries[3].name, "loop");
+  EXPECT_FALSE(entries[3].directory);
+  EXPECT_TRUE(files.Entries("missing").empty());
+  EXPECT_TRUE(files.Entries("b.txt").empty());
+  disk.failOn(Operation::kList, disk.count(Operation::kList) + 1, EACCES);
+  EXPECT_RAISES(75, files.Entries(directory.path()));
 }
 
 TEST_F(Files, GetAttrOfFilesAndDirectories) {

@@ -11,7 +11,8 @@ namespace tarrowin {
 namespace {
 
 constexpr std::int32_t kErrCorrupt = 3049;
-constexpr std::int32_t kErrCannotOpenForm = 2121, kErrNoReport = 2103;
+// Access refused to open an object: the only number for which the conversions leave it alone.
+constexpr std::int32_t kErrRefused = 2601;
 
 // The open file, shared by everything that reads from it later.
 struct Source {
@@ -168,13 +169,12 @@ ModuleModel moduleModel(const SourceRef& source, const mdb::CatalogObject& objec
 void addAccessObjects(const SourceRef& source, DatabaseModel& model) {
   for (const auto& object : source->database.forms()) {
     const std::string name = source->text(object.name);
-    model.forms.add(
-        designModel(source, object, cannotOpen(kErrCannotOpenForm, "form", name), "Form_"));
+    model.forms.add(designModel(source, object, cannotOpen(kErrRefused, "form", name), "Form_"));
   }
   for (const auto& object : source->database.reports()) {
     const std::string name = source->text(object.name);
     model.reports.add(
-        designModel(source, object, cannotOpen(kErrNoReport, "report", name), "Report_"));
+        designModel(source, object, cannotOpen(kErrRefused, "report", name), "Report_"));
   }
   for (const auto& object : source->database.macros()) {
     MacroModel macro;
