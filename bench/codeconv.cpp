@@ -89,6 +89,7 @@ class MemoryFileSystem : public FileSystem {
   int status(const std::string& path, Status&) override {
     return files_.contains(path) ? 0 : ENOENT;
   }
+  int list(const std::string&, std::vector<Entry>&) override { return ENOENT; }
 
   void put(const std::string& path, const std::string& content) { files_[path] = content; }
 

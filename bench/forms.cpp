@@ -58,25 +58,63 @@ std::string controls(int count) {
   return text;
 }
 
+std::ofstream newSnapshot(const std::filesystem::path& path) {
+  std::ofstream file(path);
+  file << R"({"snapshot":1,"database":{"name":"C:\\Bench.mdb","version":"4.0",)"
+       << R"("properties":{"AccessVersion":"08.50"}},"forms":[)";
+  return file;
+}
+
+std::string design(const std::string& controlList) {
+  return R"("properties":{"DefaultView":0,"RecordSource":"Orders","Caption":"Orders","Width":9000,)"
+         R"("BorderStyle":2,"HelpContextID":0,"KeyPreview":false,"MinMaxButtons":3,"Tag":""},)"
+         R"("sections":[{"number":0,"properties":{"Height":3000,"BackColor":12632256,"SpecialEffect":0}},)"
+         R"({"number":1,"properties":{"Height":300,"BackColor":0,"SpecialEffect":0}},)"
+         R"({"number":2,"properties":{"Height":300,"BackColor":0,"SpecialEffect":0}}],"controls":[)" +
+         controlList + "]}";
+}
+
 std::string snapshotOf(int forms, int controlsOfEach) {
   const auto path = std::filesystem::temp_directory_path() /
                     ("tarrowin-bench-forms-" + std::to_string(forms) + "-" +
                      std::to_string(controlsOfEach) + ".access.json");
-  std::ofstream file(path);
-  const std::string design =
-      R"("properties":{"DefaultView":0,"RecordSource":"Orders","Caption":"Orders","Width":9000,)"
-      R"("BorderStyle":2,"HelpContextID":0,"KeyPreview":false,"MinMaxButtons":3,"Tag":""},)"
-      R"("sections":[{"number":0,"properties":{"Height":3000,"BackColor":12632256,"SpecialEffect":0}},)"
-      R"({"number":1,"properties":{"Height":300,"BackColor":0,"SpecialEffect":0}},)"
-      R"({"number":2,"properties":{"Height":300,"BackColor":0,"SpecialEffect":0}}],"controls":[)" +
-      controls(controlsOfEach) + "]}";
-  file << R"({"snapshot":1,"database":{"name":"C:\\Bench.mdb","version":"4.0",)"
-       << R"("properties":{"AccessVersion":"08.50"}},"forms":[)";
+  std::ofstream file = newSnapshot(path);
+  const std::string designText = design(controls(controlsOfEach));
   for (int i = 0; i < forms; ++i)
-    file << (i ? "," : "") << R"({"name":"Orders of month )" << i << "\"," << design;
+    file << (i ? "," : "") << R"({"name":"Orders of month )" << i << "\"," << designText;
   file << "]}";
   return path.string();
 }
+
+// A form whose controls have the names of those in its subform, which are all found twice.
+std::string snapshotWithSubform(int count) {
+  const auto path = std::filesystem::temp_directory_path() /
+                    ("tarrowin-bench-subform-" + std::to_string(count) + ".access.json");
+  std::ofstream file = newSnapshot(path);
+  const std::string inner = controls(count);
+  const std::string sub =
+      control("sub", 112, "", position(0, 0) + R"(,"SourceObject":"Form.Inner")");
+  file << R"({"name":"Inner",)" << design(inner) << R"(,{"name":"Outer",)"
+       << design(sub + "," + inner) << "]}";
+  return path.string();
+}
+
+// Argument: controls of the subform.
+void convertSubform(benchmark::State& state) {
+  const int count = static_cast<int>(state.range(0));
+  Session session(snapshotWithSubform(count));
+  session.main.window.list(ObjectList::kForms)[1].selected = true;
+  for (auto _ : state) ConvertForms(session.main, false);
+  if (session.main.lastBatch.converted != 1) state.SkipWithError("the form was not converted");
+  state.counters["controls/s"] = benchmark::Counter(
+      static_cast<double>(state.iterations()) * 2 * count, benchmark::Counter::kIsRate);
+}
+BENCHMARK(convertSubform)
+    ->Arg(1250)
+    ->Arg(2500)
+    ->Arg(5000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMillisecond);
 
 // Arguments: forms, controls of each.
 void convertForms(benchmark::State& state) {

@@ -117,8 +117,8 @@ struct ConversionState {
   std::int16_t intSubDepth = 0;        // nested subforms entered
   std::int16_t intSubCount = 0;        // subforms finished
   bool blnInSubForm = false, blnNestedSubForm = false;
-  bool blnSubInTab = false;  // the subform stands on a tab page
-  bool blnDupFound = false;  // a name clash between subform and form is known
+  bool blnSubInTab = false;               // the subform stands on a tab page
+  bool blnDupFound = false;               // a name clash between subform and form is known
   std::vector<OpenSubForm> openSubForms;  // whose controls are being printed, outermost first
 
   // What the control printers leave for the code of a form. The flags hold until the next object

@@ -35,8 +35,7 @@ constexpr std::int64_t kCaption = 120;
 // The label of a check box or option button on a plain form stands this much lower.
 constexpr std::int64_t kPlainLabel = 40;
 
-// The links above a control: P is its Parent, Q the Parent of P, R that of Q.
-enum Link { P, Q, R };
+using namespace parent_link;
 
 enum class ParentKind { kButton, kGroup, kSubform, kPage, kOther };
 enum class ControlKind {
@@ -54,7 +53,7 @@ struct CorrectionRow {
   ParentKind parent;
   ControlKind control;
   std::int32_t typeOfQ;  // kAnyType: whatever it is
-  Link outer;            // whose position is subtracted
+  std::size_t outer;     // whose position is subtracted
   Container container;
   std::int64_t room = 0;
 };
@@ -194,8 +193,9 @@ class Position {
     guarded([this] { type_ = toLong(ctl_.get("ControlType")); });
     const ParentChain chain(ctl_);
     const auto note = [this](const VbError& error) { onError(error); };
-    for (const Link link : {P, Q, R}) types_[link] = chain.number(link, "ControlType", note);
-    for (const Link link : {P, Q, R}) positions_[link] = chain.integer(link, property_, note);
+    for (const std::size_t link : {P, Q, R}) types_[link] = chain.number(link, "ControlType", note);
+    for (const std::size_t link : {P, Q, R})
+      positions_[link] = chain.integer(link, property_, note);
   }
 
   // Runs one statement.

@@ -20,7 +20,8 @@ void PrintListBoxProps(MainObject& main, const LateBound& ctl);
 void PrintRectangleProps(MainObject& main, const LateBound& ctl);  // and all that has no printer
 void PrintLineProps(MainObject& main, const LateBound& ctl);
 void PrintImageProps(MainObject& main, const LateBound& ctl);
-void PrintObjectFrameProps(MainObject& main, const LateBound& ctl);  // no kind of control leads here
+void PrintObjectFrameProps(MainObject& main,
+                           const LateBound& ctl);  // no kind of control leads here
 void PrintOLEProps(MainObject& main, const LateBound& ctl);
 
 // The open frame of a subform: the rows of PrintObjectFrameProps without the closing line.

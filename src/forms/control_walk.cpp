@@ -15,8 +15,7 @@ namespace {
 // What the end of a chain of Parents raises, and members that some objects lack.
 constexpr std::int32_t kTolerated[] = {438, 2186, 2452, 2455, 2459, 2462, 2465};
 
-// The Parent and the Parent's Parent.
-constexpr std::size_t P = 0, Q = 1, kParents = 2;
+using namespace parent_link;
 
 Collection<LateBound> controlsOf(const LateBound& form) {
   return Collection<LateBound>(toObject(form.get("Controls")));

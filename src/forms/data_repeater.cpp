@@ -36,12 +36,6 @@ void clientHeight(const PrintedControl& form, std::string_view, std::string& lin
 void clientWidth(const PrintedControl& form, std::string_view property, std::string& line) {
   line += joined(sum(form.ctl.get(property), -kMargin));
 }
-void subHeight(const PrintedControl& control, std::string_view, std::string& line) {
-  line += std::to_string(control.state().intSubHeight);
-}
-void subWidth(const PrintedControl& control, std::string_view, std::string& line) {
-  line += std::to_string(control.state().intSubWidth);
-}
 
 std::string repeatedControl(const LateBound& form) {
   const std::string name = form.text("Name");
@@ -88,12 +82,12 @@ constexpr PrinterRow kSubRepeaterRows[] = {
     {"      Bindings          = \"\""},
     {"      Caption           = ", quotedText,  " DataRepeater1 "},
     {"      DataSource        = ", quotedText,  "Adodc1"},
-    {"      Height            = ", subHeight},
+    {"      Height            = ", subFormHeight},
     {"      Top               = ", top},
     {"      Public            = -1   ' True"},
     {"      Left              = ", left},
     {"      Visible           = -1   ' True"},
-    {"      Width             = ", subWidth},
+    {"      Width             = ", subFormWidth},
     {"      BeginProperty RepeatedControlName"},
     {"         Name = ",           repeatedSubName, "", unlessNested},
     {"      EndProperty"},

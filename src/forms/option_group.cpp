@@ -59,8 +59,7 @@ constexpr PrinterRow kOptionGroupRows[] = {
 // What the end of a chain of Parents raises, and members that some parents lack.
 constexpr std::int32_t kToleratedOfParents[] = {438, 2186, 2452, 2455, 2459, 2462, 2465};
 
-// The Parent and the Parent's Parent.
-constexpr std::size_t P = 0, Q = 1, kParents = 2;
+using namespace parent_link;
 
 class OptionGroup {
  public:

@@ -10,6 +10,12 @@
 
 namespace tarrowin {
 
+// The links above a control: P is its Parent, Q the Parent of P, R that of Q.
+namespace parent_link {
+inline constexpr std::size_t P = 0, Q = 1, R = 2;
+inline constexpr std::size_t kParents = 2;  // how many are followed where R is of no account
+}  // namespace parent_link
+
 class ParentChain {
  public:
   // Follows Parent as many times as the chain has links.

@@ -32,8 +32,7 @@ constexpr ErrorTable kErrors = {kSilent, kUnreachable};
 enum class View { kSingle, kContinuous, kSheet };
 constexpr std::int32_t kSingleForm = 0, kContinuousForms = 1;
 
-// The Parent and the Parent's Parent.
-constexpr std::size_t P = 0, Q = 1, kParents = 2;
+using namespace parent_link;
 
 // Members of option groups and of tab pages are printed by these.
 bool isPrintedByContainer(std::int32_t typeOfP, std::int32_t typeOfQ) {

@@ -11,14 +11,6 @@ namespace {
 
 using namespace value_rule;
 
-void savedHeight(const PrintedControl& control, std::string_view, std::string& line) {
-  line += std::to_string(control.state().intSubHeight);
-}
-
-void savedWidth(const PrintedControl& control, std::string_view, std::string& line) {
-  line += std::to_string(control.state().intSubWidth);
-}
-
 // Twips; a tab control keeps what it does not show this far to the left.
 void savedLeft(const PrintedControl& control, std::string_view, std::string& line) {
   constexpr std::int32_t kOutOfSight = 75000, kMargin = 120;
@@ -33,21 +25,21 @@ constexpr PrinterRow kSheetRows[] = {
     {"   Begin MSDataGridLib.DataGrid ", name},
     {"      DataSource     = ",          quotedText,  "Adodc1"},
     {"      Enabled        = ",          boolean,     "Enabled"},
-    {"      Height         = ",          savedHeight},
+    {"      Height         = ",          subFormHeight},
     {"      Left           = ",          left},
     {"      Top            = ",          top},
     {"      Visible        = ",          boolean,     "Visible"},
-    {"      Width          = ",          savedWidth},
+    {"      Width          = ",          subFormWidth},
 };
 
 constexpr PrinterRow kPlaceholderRows[] = {
     {"   Begin VB.Shape ",      name},
-    {"      Height         = ", savedHeight},
+    {"      Height         = ", subFormHeight},
     {"      Left           = ", savedLeft},
     {"      Tag            = ", quotedClean, "Tag"},
     {"      Top            = ", top},
     {"      Visible        = ", boolean,     "Visible"},
-    {"      Width          = ", savedWidth},
+    {"      Width          = ", subFormWidth},
     {"   End   '",              name},
 };
 // clang-format on

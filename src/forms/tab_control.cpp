@@ -76,8 +76,7 @@ constexpr std::int32_t kUnreachable[] = {2102, 2121, 2450, 2457, 2467, 2494};
 constexpr ErrorTable kErrors = {kSilent, kUnreachable};
 // clang-format on
 
-// The Parent and the Parent's Parent.
-constexpr std::size_t P = 0, Q = 1, kParents = 2;
+using namespace parent_link;
 
 struct ParentTypes {
   std::int32_t P, Q;
