@@ -187,6 +187,17 @@ TEST(FormWriter, AnUnusualErrorOfTheWalkNamesTheLastControl) {
     EXPECT_EQ(session.user.boxes[i].text, "CreateVBForm(one) - Error #3000 Refused.");
 }
 
+TEST(FormWriter, ControlsWhoseParentsAreCyclicOrMissing) {
+  FormSession session;
+  const auto lines = session.convertOne(
+      form("F", {control("first", 109, at(0, 0)), control("own", 107, at(0, 0), "own"),
+                 control("a", 109, at(0, 0), "b"), control("b", 100, at(0, 0), "a"),
+                 control("lost", 109, at(0, 0), "nowhere")}));
+  // Nobody prints what hangs on itself; what hangs on nothing stands on the form.
+  EXPECT_EQ(lineWith(lines, "   Begin VB."), "   Begin VB.TextBox first|   Begin VB.TextBox lost");
+  EXPECT_EQ(lines.back(), "End   ' Form F");
+}
+
 std::vector<Json> labels(int count) {
   std::vector<Json> controls;
   for (int i = 0; i < count; ++i) controls.push_back(control("l" + std::to_string(i), 100));

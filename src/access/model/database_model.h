@@ -86,11 +86,12 @@ struct SectionModel {
   PropertyBag properties;
 };
 
+// A damaged design may have controls inside themselves, or in circles.
 struct ControlModel {
   static constexpr std::size_t kNoParent = SIZE_MAX;
   std::string name;
   std::int32_t type = 0;           // ControlType
-  std::size_t parent = kNoParent;  // position of the control that holds this one; never cyclic
+  std::size_t parent = kNoParent;  // position of the control that holds this one
   PropertyBag properties;
 };
 

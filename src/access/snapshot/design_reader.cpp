@@ -1,6 +1,7 @@
 // Sections, controls with their parents, and group levels.
 #include "access/snapshot/design_reader.h"
 
+#include <algorithm>
 #include <unordered_map>
 
 namespace tarrowin {
@@ -38,53 +39,23 @@ class ParentSearch {
       byName_.emplace(folding.fold(controls[i].name), i);
   }
 
-  // An exact match first. The place is that of the parent's name, for the error.
-  std::size_t find(const std::string& name, JsonValue place) const {
-    std::size_t exact = 0, alike = 0, found = 0;
+  // The first control of exactly that name, else the first that differs in case alone; none for
+  // an unknown name, as in a damaged design: such a control stands on the form itself.
+  std::size_t find(const std::string& name) const {
+    std::size_t exact = ControlModel::kNoParent, alike = ControlModel::kNoParent;
     const auto [first, last] = byName_.equal_range(folding_.fold(name));
     for (auto entry = first; entry != last; ++entry) {
-      const bool same = controls_[entry->second].name == name;
-      ++alike;
-      if (same) ++exact;
-      if (same || exact == 0) found = entry->second;
+      alike = std::min(alike, entry->second);
+      if (controls_[entry->second].name == name) exact = std::min(exact, entry->second);
     }
-    const std::size_t matches = exact != 0 ? exact : alike;
-    if (matches == 0) place.fail("there is no control " + quoted(place));
-    if (matches > 1) place.fail("there is more than one control " + quoted(place));
-    return found;
+    return exact != ControlModel::kNoParent ? exact : alike;
   }
 
  private:
-  static std::string quoted(JsonValue name) { return '"' + std::string(name.text()) + '"'; }
-
   const std::vector<ControlModel>& controls_;
   const CaseFolding& folding_;
   std::unordered_multimap<std::string, std::size_t> byName_;
 };
-
-// Refuses controls that would hold themselves, however many others stand between.
-void refuseCycles(const std::vector<ControlModel>& controls, JsonValue list) {
-  enum class State : char { kUnseen, kOnPath, kFine };
-  std::vector<State> states(controls.size(), State::kUnseen);
-  std::vector<std::size_t> path;
-  for (std::size_t start = 0; start < controls.size(); ++start) {
-    path.clear();
-    std::size_t at = start;
-    while (at != ControlModel::kNoParent && states[at] == State::kUnseen) {
-      states[at] = State::kOnPath;
-      path.push_back(at);
-      at = controls[at].parent;
-    }
-    if (at != ControlModel::kNoParent && states[at] == State::kOnPath) {
-      std::size_t index = 0;
-      for (const JsonValue entry : list)
-        if (index++ == at)
-          entry.fail("the control \"" + std::string(entry.member("name")->text()) +
-                     "\" is inside itself by its parents");
-    }
-    for (const std::size_t passed : path) states[passed] = State::kFine;
-  }
-}
 
 void readControls(JsonValue list, DesignModel& design, const SnapshotValues& values,
                   const CaseFolding& folding) {
@@ -95,10 +66,9 @@ void readControls(JsonValue list, DesignModel& design, const SnapshotValues& val
   std::size_t index = 0;
   for (const JsonValue entry : list) {
     if (const auto parent = entry.member("parent"))
-      design.controls[index].parent = search.find(values.text(*parent), *parent);
+      design.controls[index].parent = search.find(values.text(*parent));
     ++index;
   }
-  refuseCycles(design.controls, list);
 }
 
 }  // namespace
