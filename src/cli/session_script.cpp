@@ -9,6 +9,7 @@
 #include "cli/exit_status.h"
 #include "cli/json_text.h"
 #include "core/window_events.h"
+#include "shared/text_procedures.h"
 
 namespace tarrowin {
 
@@ -45,8 +46,6 @@ constexpr int kLastTab = 6;
 constexpr int kDeepest = 16;
 
 [[noreturn]] void fail(const std::string& what) { throw CommandFailure(what); }
-
-std::string inQuotes(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 std::string textOf(const Json& value, std::string_view key) {
   if (!value.is_string()) fail(inQuotes(key) + " must be a text");

@@ -17,7 +17,7 @@ namespace access_constants {
 // Object types of DoCmd.Close, DoCmd.SelectObject and DoCmd.OutputTo.
 inline constexpr std::int32_t acForm = 2, acReport = 3, acMacro = 4, acModule = 5;
 // Save options of DoCmd.Close.
-inline constexpr std::int32_t acSavePrompt = 0, acSaveNo = 2;
+inline constexpr std::int32_t acSavePrompt = 0, acSaveYes = 1, acSaveNo = 2;
 // Views of DoCmd.OpenForm and DoCmd.OpenReport.
 inline constexpr std::int32_t acDesign = 1, acFormDS = 3, acViewDesign = 1;
 // Data mode and window mode of DoCmd.OpenForm.
@@ -118,6 +118,7 @@ class QueryDef : public LateBound {
     return Collection<Parameter>(toObject(get("Parameters")));
   }
   Recordset OpenRecordset() const { return Recordset(toObject(call("OpenRecordset"))); }
+  void Close() const { call("Close"); }
 };
 
 class TableDef : public LateBound {
@@ -141,6 +142,24 @@ class Container : public LateBound {
   }
 };
 
+class RelationField : public LateBound {
+ public:
+  using LateBound::LateBound;
+  std::string Name() const { return text("Name"); }
+  std::string ForeignName() const { return text("ForeignName"); }
+};
+
+class Relation : public LateBound {
+ public:
+  using LateBound::LateBound;
+  std::string Name() const { return text("Name"); }
+  std::string Table() const { return text("Table"); }
+  std::string ForeignTable() const { return text("ForeignTable"); }
+  Collection<RelationField> Fields() const {
+    return Collection<RelationField>(toObject(get("Fields")));
+  }
+};
+
 class Database : public LateBound {
  public:
   using LateBound::LateBound;
@@ -153,6 +172,9 @@ class Database : public LateBound {
   }
   Collection<TableDef> TableDefs() const {
     return Collection<TableDef>(toObject(get("TableDefs")));
+  }
+  Collection<Relation> Relations() const {
+    return Collection<Relation>(toObject(get("Relations")));
   }
   Container Containers(std::string_view name) const {
     return Collection<Container>(toObject(get("Containers")))(name);
@@ -213,6 +235,23 @@ class Application : public LateBound {
   LateBound Reports(std::string_view name) const {
     return LateBound(toObject(get("Reports", {Value(name)})));
   }
+  // A new form, open in design view, with the properties and sections of the template.
+  LateBound CreateForm(std::string_view templateName) const {
+    return LateBound(toObject(call("CreateForm", {Value(), Value(templateName)})));
+  }
+  // A new control of the open form; ControlType and section by number, place and size in twips.
+  LateBound CreateControl(std::string_view form, std::int32_t type, std::int32_t section,
+                          std::string_view parent, std::int32_t left, std::int32_t top,
+                          std::int32_t width, std::int32_t height) const {
+    return LateBound(toObject(
+        call("CreateControl", {Value(form), Value(type), Value(section), Value(parent), Value(),
+                               Value(left), Value(top), Value(width), Value(height)})));
+  }
+  // With the default place and size.
+  LateBound CreateControl(std::string_view form, std::int32_t type, std::int32_t section) const {
+    return LateBound(toObject(call("CreateControl", {Value(form), Value(type), Value(section)})));
+  }
+  void RefreshDatabaseWindow() const { call("RefreshDatabaseWindow"); }
   Module Modules(std::string_view name) const {
     return Module(toObject(get("Modules", {Value(name)})));
   }

@@ -2,8 +2,10 @@
 // grouped by who uses them, each group with its lifetime.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "core/access_objects.h"
@@ -12,10 +14,19 @@
 
 namespace tarrowin {
 
-// A subform whose controls are being printed.
+// The heights of a report's sections by Access section number, in twips.
+using ReportHeights = std::array<std::int16_t, 13>;
+
+// A subform or subreport whose controls are being printed.
 struct OpenSubForm {
   LateBound form;
   std::string name;  // what tells it from others
+};
+
+// The fields of a source, and the data member that holds each.
+struct SourceMembers {
+  std::string source;
+  std::unordered_map<std::string, std::string> memberOf;  // by field name
 };
 
 struct ConversionState {
@@ -107,13 +118,14 @@ struct ConversionState {
   NameList astrDupNames;  // names of subform controls that astrCtlNames holds
   GrowingList astrDataMembers;
 
-  // Subforms; the members are shared by all levels of nesting.
-  LateBound frmSubCurr;
+  // Subforms and subreports; the members are shared by all levels of nesting.
+  LateBound frmSubCurr;        // the form or report that the subform control shows
   std::string strSubFormName;  // the name by which the subform is reached
   std::int16_t intSubLeft = 0, intSubHeight = 0, intSubWidth = 0;  // of the subform control
   std::int16_t intSubHeaderHeight = 0, intSubPageHeaderHeight = 0, intSubDetailHeight = 0,
                intSubPageFooterHeight = 0, intSubFooterHeight = 0;
-  std::int16_t intSubTotalHeight = 0;  // their sum and 120
+  ReportHeights intSubRptHeights{};    // of a subreport, all its sections
+  std::int16_t intSubTotalHeight = 0;  // the sum of all and 120
   std::int16_t intSubDepth = 0;        // nested subforms entered
   std::int16_t intSubCount = 0;        // subforms finished
   bool blnInSubForm = false, blnNestedSubForm = false;
@@ -131,7 +143,19 @@ struct ConversionState {
   GrowingList astrComboSources;  // control name + ";" + items with ";" between them
   GrowingList astrListSources;   // likewise
 
-  // Reports. The grouping member of the last grouped report of the run; nothing clears it.
+  // The report in hand, from one report to the next. Heights are twips.
+  LateBound mrptCurr;                        // as it is open in Access
+  ReportHeights intRptHeights{};             // 0 for a section that it lacks
+  std::int32_t lngReportHeight = 0;          // their sum and a margin, clamped
+  std::string strRptCaption;                 // the cleaned caption
+  std::string strSectionName;                // the section that is printed next
+  std::string strRecordSource;               // of the Data Report; its items may shorten it
+  SourceMembers sourceMembers;               // of strRecordSource, once it has been opened
+  bool blnParamQuery = false;                // the source is a query with parameters
+  bool blnJoinSQL = false;                   // source tables came from the text of the SQL
+  std::vector<std::string> strCommandNames;  // names of the commands, and an empty element
+  std::vector<std::string> strGroupFields;   // ControlSource of the group levels
+  // The grouping member of the last grouped report of the run; nothing clears it.
   std::string strDataMember;
 
   // Scratch list of the SQL text analysis, filled from element 0 on; two elements after a reset.

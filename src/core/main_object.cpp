@@ -16,9 +16,11 @@ Answer MainObject::messageBox(int style, std::string_view text) {
   return user.messageBox(style, text, kProgramTitle);
 }
 
-void MainObject::errorBox(std::string_view procedure, const VbError& error) {
-  messageBox(message_style::kCritical, std::string(procedure) + "() - Error #" +
-                                           LTrimStr(error.number()) + "\r\n" + error.description());
+void MainObject::errorBox(std::string_view procedure, const VbError& error,
+                          std::string_view named) {
+  messageBox(message_style::kCritical, std::string(procedure) + "(" + std::string(named) +
+                                           ") - Error #" + LTrimStr(error.number()) + "\r\n" +
+                                           error.description());
 }
 
 void MainObject::controlErrorBox(std::string_view procedure, std::string_view name,

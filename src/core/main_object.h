@@ -31,8 +31,9 @@ struct MainObject {
 
   // Shows a box with the program's title.
   Answer messageBox(int style, std::string_view text);
-  // The common error box: procedure + "() - Error #" + number + CR LF + description, style 16.
-  void errorBox(std::string_view procedure, const VbError& error);
+  // The common error box: procedure + "() - Error #" + number + CR LF + description, style 16. What
+  // the procedure names stands between the brackets.
+  void errorBox(std::string_view procedure, const VbError& error, std::string_view named = {});
   // The box of a procedure that names the control in hand: procedure + "(" + name + ") - Error #" +
   // number + a blank + description, style 16.
   void controlErrorBox(std::string_view procedure, std::string_view name, const VbError& error);

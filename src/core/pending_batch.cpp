@@ -21,9 +21,6 @@ class PendingBatch : public BatchDriver {
 
 }  // namespace
 
-void ConvertReports(MainObject& main, bool blnAll) {
-  PendingBatch(main, ObjectList::kReports).run(blnAll);
-}
 void ConvertMacros(MainObject& main, bool blnAll) {
   PendingBatch(main, ObjectList::kMacros).run(blnAll);
 }

@@ -6,7 +6,6 @@ namespace tarrowin {
 
 struct MainObject;
 
-void ConvertReports(MainObject& main, bool blnAll);
 void ConvertMacros(MainObject& main, bool blnAll);
 void ConvertObjects(MainObject& main, bool blnAll);
 

@@ -10,6 +10,7 @@
 #include "core/module_batch.h"
 #include "core/pending_batch.h"
 #include "core/query_batch.h"
+#include "core/report_batch.h"
 
 namespace tarrowin {
 

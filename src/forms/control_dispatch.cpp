@@ -9,6 +9,7 @@
 #include "forms/containers.h"
 #include "forms/control_printers.h"
 #include "forms/control_types.h"
+#include "forms/subreport.h"
 
 namespace tarrowin {
 
@@ -24,7 +25,7 @@ void convertOptionGroup(MainObject& main, const LateBound& ctl) {
 }
 
 void convertSubForm(MainObject& main, const LateBound& ctl) {
-  GetSubFormProps(main, ctl);
+  (main.state.mblnReportMode ? GetSubReportProps : GetSubFormProps)(main, ctl);
   main.state.frmSubCurr = {};
 }
 
@@ -37,28 +38,37 @@ void convertTabControl(MainObject& main, const LateBound& ctl) {
 struct TypeRow {
   std::int32_t type;
   Printer printer;
+  bool inReports = false;  // GetReportControlProps knows it too
 };
 
 // All other types get PrintRectangleProps.
 constexpr TypeRow kTypes[] = {
-    {control_type::kBoundObjectFrame, PrintOLEProps},
-    {control_type::kObjectFrame, PrintOLEProps},
+    {control_type::kBoundObjectFrame, PrintOLEProps, true},
+    {control_type::kObjectFrame, PrintOLEProps, true},
     {control_type::kCheckBox, PrintCheckBoxProps},
     {control_type::kComboBox, PrintComboBoxProps},
     {control_type::kCommandButton, PrintCommandButtonProps},
     {control_type::kToggleButton, PrintCommandButtonProps},
     {control_type::kActiveX, convertActiveX},
-    {control_type::kImage, PrintImageProps},
-    {control_type::kLabel, PrintLabelProps},
-    {control_type::kLine, PrintLineProps},
+    {control_type::kImage, PrintImageProps, true},
+    {control_type::kLabel, PrintLabelProps, true},
+    {control_type::kLine, PrintLineProps, true},
     {control_type::kListBox, PrintListBoxProps},
     {control_type::kOptionButton, PrintOptionButtonProps},
     {control_type::kOptionGroup, convertOptionGroup},
-    {control_type::kRectangle, PrintRectangleProps},
+    {control_type::kRectangle, PrintRectangleProps, true},
     {control_type::kSubform, convertSubForm},
     {control_type::kTabControl, convertTabControl},
-    {control_type::kTextBox, PrintTextBoxProps},
+    {control_type::kTextBox, PrintTextBoxProps, true},
 };
+
+void convertByType(MainObject& main, const LateBound& ctl, bool asReport) {
+  std::int32_t type = 0;
+  ignoringErrors([&] { type = ctl.number("ControlType"); });
+  const auto row = std::ranges::find(kTypes, type, &TypeRow::type);
+  const bool known = row != std::end(kTypes) && (row->inReports || !asReport);
+  (known ? row->printer : PrintRectangleProps)(main, ctl);
+}
 
 // The class of the Begin line: the prefix of the library and the short name, and what is put in
 // their place.
@@ -131,11 +141,10 @@ void convertActiveX(MainObject& main, const LateBound& ctl) {
 
 }  // namespace
 
-void GetControlProps(MainObject& main, const LateBound& ctl) {
-  std::int32_t type = 0;
-  ignoringErrors([&] { type = ctl.number("ControlType"); });
-  const auto row = std::ranges::find(kTypes, type, &TypeRow::type);
-  (row == std::end(kTypes) ? PrintRectangleProps : row->printer)(main, ctl);
+void GetControlProps(MainObject& main, const LateBound& ctl) { convertByType(main, ctl, false); }
+
+void GetReportControlProps(MainObject& main, const LateBound& ctl) {
+  convertByType(main, ctl, true);
 }
 
 }  // namespace tarrowin

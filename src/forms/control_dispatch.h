@@ -9,4 +9,8 @@ namespace tarrowin {
 // control of an unknown kind becomes a shape.
 void GetControlProps(MainObject& main, const LateBound& ctl);
 
+// The same for a control of a report that is shown as a form: object frames, images, labels, lines,
+// rectangles and text boxes; all else becomes a shape.
+void GetReportControlProps(MainObject& main, const LateBound& ctl);
+
 }  // namespace tarrowin

@@ -8,6 +8,9 @@
 
 namespace tarrowin {
 
+// What a subform's frame adds to the section stack of its controls.
+inline constexpr std::int64_t kSubFormFrame = 120;
+
 // Left inside the container. Controls of a tab page behind the first are moved 75000 twips out of
 // sight, as Visual Basic's tab control keeps them. A Left or a Parent's Left that does not fit
 // gives 32767; other failures that are not usual at the end of a chain of Parents have a box, and
@@ -16,5 +19,8 @@ std::int64_t GetControlLeft(MainObject& main, const LateBound& ctl);
 
 // Top below the sections above, inside the container; errors as in GetControlLeft.
 std::int64_t GetFormSection(MainObject& main, const LateBound& ctl);
+
+// GetReportSection while a report is being converted, else GetFormSection.
+std::int64_t topInHand(MainObject& main, const LateBound& ctl);
 
 }  // namespace tarrowin

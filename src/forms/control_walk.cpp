@@ -5,6 +5,7 @@
 #include <iterator>
 #include <string>
 
+#include "forms/control_types.h"
 #include "forms/parent_chain.h"
 #include "shared/text_procedures.h"
 
@@ -22,6 +23,16 @@ Collection<LateBound> controlsOf(const LateBound& form) {
 }
 
 }  // namespace
+
+bool isPrintedByContainer(std::int32_t P, std::int32_t Q) {
+  using namespace control_type;
+  return P == kOptionGroup || Q == kOptionGroup || (Q == kSubform && P != kSubform) ||
+         P == kTabControl || Q == kTabControl;
+}
+
+bool isIndentedInContainer(const ConversionState& state) {
+  return state.blnInOptionGroup || state.blnInTab;
+}
 
 ControlWalk::ControlWalk(MainObject& main, const WalkKind& kind)
     : main_(main), state_(main.state), kind_(kind), procedure_([this](const VbError& error) {
@@ -47,13 +58,13 @@ void ControlWalk::begin() {
   state_.intSubCount = 0;
   Collection<LateBound> controls;
   statement([&] {
-    controls = controlsOf(state_.frmCurr);
+    controls = controlsOf(design());
     state_.intNumControls = controls.Count() - 1;
   });
   // The number of the form before stands where the controls could not be counted.
   for (std::int32_t i = 0; i <= state_.intNumControls; ++i) {
     statement([&] {
-      if (!controls) controls = controlsOf(state_.frmCurr);
+      if (!controls) controls = controlsOf(design());
       state_.astrCtlNames.append(controls(i).text("Name"));
     });
   }
@@ -63,7 +74,7 @@ void ControlWalk::convertControls() {
   Collection<LateBound> controls;
   std::int32_t count = 0;
   statement([&] {
-    controls = controlsOf(state_.frmCurr);
+    controls = controlsOf(design());
     count = controls.Count();
   });
   for (std::int32_t i = 0; i < count; ++i) {
@@ -77,22 +88,51 @@ void ControlWalk::convert(const LateBound& ctl) {
   state_.blnFirstControl = false;
   const ParentChain chain(ctl, kParents);
   const auto note = [this](const VbError& error) { onError(error); };
-  const std::string nameOfP = chain.text(P, "Name", note);
-  const std::string nameOfQ = chain.text(Q, "Name", note);
+  std::string nameOfP, nameOfQ;
+  if (kind_.asksForName) {
+    nameOfP = chain.text(P, "Name", note);
+    nameOfQ = chain.text(Q, "Name", note);
+  }
   if (!first) {
     const std::int32_t typeOfP = chain.number(P, "ControlType", note);
     const std::int32_t typeOfQ = chain.number(Q, "ControlType", note);
     if (kind_.isLeftToContainer(typeOfP, typeOfQ)) return;
   }
-  bool standsOnForm = false;
-  statement([&] {
-    const std::string form = state_.frmCurr.text("Name");
-    standsOnForm = nameOfP == form || nameOfQ == form;
-  });
-  if (!standsOnForm) return;
+  if (kind_.asksForName && !standsOnDesign(nameOfP, nameOfQ)) return;
   state_.strIndent = !first && kind_.isIndented(state_) ? "   " : "";
   statement([&] { state_.strCtlName = MakeVBName(ctl.text("Name")); });
   kind_.convert(main_, ctl);
+}
+
+bool ControlWalk::standsOnDesign(const std::string& nameOfP, const std::string& nameOfQ) {
+  bool stands = false;
+  statement([&] {
+    const std::string name = design().text("Name");
+    stands = nameOfP == name || nameOfQ == name;
+  });
+  return stands;
+}
+
+void ControlWalk::print(std::string_view line) {
+  statement([&] { main_.files.Print(kOutputFile, line); });
+}
+
+void ControlWalk::printWithName(std::string_view literal) {
+  statement([&] { main_.files.Print(kOutputFile, std::string(literal) + design().text("Name")); });
+}
+
+void convertWhole(MainObject& main, const WalkKind& kind,
+                  const std::function<void(ControlWalk&)>& close) {
+  ConversionState& state = main.state;
+  state.astrDupNames.reset();
+  state.astrPictureCode.reset();
+  state.blnSubInTab = false;
+  ControlWalk walk(main, kind);
+  walk.begin();
+  walk.convertControls();
+  close(walk);
+  state.astrCtlNames.reset();
+  state.astrDupNames.reset();
 }
 
 }  // namespace tarrowin

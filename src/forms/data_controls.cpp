@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/statement.h"
+#include "forms/design_in_hand.h"
 #include "query/sql_analysis.h"
 #include "shared/text_procedures.h"
 #include "shared/value_tests.h"
@@ -129,6 +130,16 @@ void printVbData(DataControl& data, const ConversionState& state, std::string_vi
   // clang-format on
 }
 
+// The data control of a whole form or report, at the top level.
+void printMainData(MainObject& main, std::string_view procedure, const LateBound& design) {
+  ConversionState& state = main.state;
+  DataControl data(main, procedure, "");
+  const std::string name = nextVbDataName(state);
+  const std::int32_t left = state.blnInTab ? kTabMargin : 0;
+  printVbData(data, state, name, design, left, state.intClientHeight - kHeight);
+  data.line("   End");
+}
+
 // What an ADO data control is bound to.
 class AdoSource {
  public:
@@ -193,12 +204,11 @@ class AdoSource {
 }  // namespace
 
 void GetVbDataCtlProps(MainObject& main) {
-  ConversionState& state = main.state;
-  DataControl data(main, "GetVbDataCtlProps", "");
-  const std::string name = nextVbDataName(state);
-  const std::int32_t left = state.blnInTab ? kTabMargin : 0;
-  printVbData(data, state, name, state.frmCurr, left, state.intClientHeight - kHeight);
-  data.line("   End");
+  printMainData(main, "GetVbDataCtlProps", designInHand(main.state));
+}
+
+void GetVbReportDataCtlProps(MainObject& main) {
+  printMainData(main, "GetVbReportDataCtlProps", main.state.mrptCurr);
 }
 
 void GetSubFormDataCtlProps(MainObject& main) {
@@ -206,7 +216,7 @@ void GetSubFormDataCtlProps(MainObject& main) {
   state.strIndent = kIndent;
   DataControl data(main, "GetSubFormDataCtlProps", kIndent);
   const std::string name = nextVbDataName(state);
-  printVbData(data, state, name, state.frmSubCurr, data.left(state.frmCurr), data.top());
+  printVbData(data, state, name, state.frmSubCurr, data.left(designInHand(state)), data.top());
   data.line("   End   '", name);
 }
 

@@ -5,9 +5,11 @@
 
 namespace tarrowin {
 
-// The VB.Data control of the main form, at the top level.
+// The VB.Data control of the main form, at the top level; of the report while one is converted.
 void GetVbDataCtlProps(MainObject& main);
-// The VB.Data control of the subform frmSubCurr; leaves strIndent at three blanks.
+// The same of the report mrptCurr.
+void GetVbReportDataCtlProps(MainObject& main);
+// The VB.Data control of the subform or subreport frmSubCurr; leaves strIndent at three blanks.
 void GetSubFormDataCtlProps(MainObject& main);
 // An ADO data control for the form; leaves strIndent at three blanks.
 void CreateAdoDataCtl(MainObject& main, const LateBound& frm);

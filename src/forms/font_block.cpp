@@ -14,22 +14,19 @@ using namespace value_rule;
 
 constexpr std::string_view kEnd = "      EndProperty";
 
-// The notes behind the values differ by a blank.
+// The note behind the value has a blank that the one of trueOrFalse has not.
 void italic(const PrintedControl& control, std::string_view property, std::string& line) {
   line += isTrue(control.ctl.get(property)) ? "-1  ' True" : "0   'False";
-}
-void underline(const PrintedControl& control, std::string_view property, std::string& line) {
-  line += isTrue(control.ctl.get(property)) ? "-1  'True" : "0   'False";
 }
 
 // clang-format off
 constexpr PrinterRow kFontRows[] = {
     {"      BeginProperty Font"},
-    {"         Name       = ", quoted,    "FontName"},
-    {"         Italic     = ", italic,    "FontItalic"},
-    {"         Size       = ", raw,       "FontSize"},
-    {"         Underline  = ", underline, "FontUnderline"},
-    {"         Weight     = ", raw,       "FontWeight"},
+    {"         Name       = ", quoted,      "FontName"},
+    {"         Italic     = ", italic,      "FontItalic"},
+    {"         Size       = ", raw,         "FontSize"},
+    {"         Underline  = ", trueOrFalse, "FontUnderline"},
+    {"         Weight     = ", raw,         "FontWeight"},
     {kEnd},
 };
 // clang-format on

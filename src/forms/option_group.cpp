@@ -34,7 +34,7 @@ void heightWithCaption(const PrintedControl& control, std::string_view property,
 
 void topAboveCaption(const PrintedControl& control, std::string_view, std::string& line) {
   std::int16_t& top = control.state().intGroupTop;
-  top = toInt16(static_cast<double>(GetFormSection(control.main, control.ctl)));
+  top = toInt16(static_cast<double>(topInHand(control.main, control.ctl)));
   line += std::to_string(std::max<std::int16_t>(subtractInt16(top, kCaption), 0));
 }
 

@@ -4,9 +4,9 @@
 #include <cstdint>
 
 #include "core/conversion_state.h"
+#include "core/design_sections.h"
 #include "core/statement.h"
 #include "forms/control_types.h"
-#include "forms/form_sections.h"
 #include "shared/vb_number.h"
 
 namespace tarrowin {
@@ -42,6 +42,16 @@ inline void readSectionHeights(Procedure& procedure, const LateBound& form,
   read(kDetail, heights.detail);
   read(kPageFooter, heights.pageFooter);
   read(kFormFooter, heights.footer);
+}
+
+// Takes over the heights of the sections that forms have too.
+inline void copyHeights(const ReportHeights& from, const SectionHeights& heights) {
+  using namespace section_number;
+  heights.header = from[kFormHeader];
+  heights.pageHeader = from[kPageHeader];
+  heights.detail = from[kDetail];
+  heights.pageFooter = from[kPageFooter];
+  heights.footer = from[kFormFooter];
 }
 
 // All heights and the margin in 16-bit arithmetic; raises 6 beyond it.

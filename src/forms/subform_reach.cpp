@@ -31,10 +31,10 @@ bool standsOnPage(const LateBound& ctl) {
 
 // A form is told from others by its name; where that cannot be read, by the name that it is
 // loaded by.
-std::string nameOf(const LateBound& ctl, const LateBound& form) {
+std::string nameOf(const LateBound& ctl, const LateBound& form, const EmbeddedKind& kind) {
   std::string name;
   if (ignoringErrors([&] { name = form.text("Name"); })) return name;
-  ignoringErrors([&] { name = LCase(sourceFormName(ctl)); });
+  ignoringErrors([&] { name = LCase(sourceName(ctl, kind)); });
   return name;
 }
 
@@ -44,11 +44,21 @@ bool isSingleForm(const LateBound& form) {
   return single;
 }
 
+bool always(const LateBound&) { return true; }
+
 }  // namespace
 
-LateBound reachSubForm(const ConversionState& state, const LateBound& ctl, std::string_view name) {
+constexpr EmbeddedKind kEmbeddedForm = {"Form", "Form.", &ConversionState::frmCurr, isSingleForm};
+constexpr EmbeddedKind kEmbeddedReport = {"Report", "Report.", &ConversionState::mrptCurr, always};
+
+const EmbeddedKind& kindInHand(const ConversionState& state) {
+  return state.mblnReportMode ? kEmbeddedReport : kEmbeddedForm;
+}
+
+LateBound reachEmbedded(const ConversionState& state, const LateBound& ctl, std::string_view name,
+                        const EmbeddedKind& kind) {
   const LateBound& holder =
-      state.openSubForms.empty() ? state.frmCurr : state.openSubForms.back().form;
+      state.openSubForms.empty() ? state.*kind.outermost : state.openSubForms.back().form;
   LateBound control;
   if (state.blnSubInTab && standsOnPage(ctl)) {
     const LateBound page(toObject(ctl.get("Parent")));
@@ -58,33 +68,34 @@ LateBound reachSubForm(const ConversionState& state, const LateBound& ctl, std::
   } else {
     control = memberOf(holder, "", name);
   }
-  return LateBound(toObject(control.get("Form")));
+  return LateBound(toObject(control.get(kind.member)));
 }
 
-std::string sourceFormName(const LateBound& ctl) {
-  constexpr std::string_view kPrefix = "Form.";
+std::string sourceName(const LateBound& ctl, const EmbeddedKind& kind) {
   std::string source = ctl.text("SourceObject");
-  if (source.starts_with(kPrefix)) source.erase(0, kPrefix.size());
+  if (source.starts_with(kind.prefix)) source.erase(0, kind.prefix.size());
   return source;
 }
 
-bool isCutOff(const ConversionState& state, const LateBound& ctl, const LateBound& form) {
-  const std::string name = nameOf(ctl, form);
+bool isCutOff(const ConversionState& state, const LateBound& ctl, const LateBound& form,
+              const EmbeddedKind& kind) {
+  const std::string name = nameOf(ctl, form, kind);
   std::string mainForm;
   const bool isMainForm =
-      ignoringErrors([&] { mainForm = state.frmCurr.text("Name"); }) && mainForm == name;
+      ignoringErrors([&] { mainForm = (state.*kind.outermost).text("Name"); }) && mainForm == name;
   const bool isInsideItself =
       std::ranges::find(state.openSubForms, name, &OpenSubForm::name) != state.openSubForms.end();
   const bool isTooDeep = state.openSubForms.size() >= kDeepestSubForm;
-  return (isMainForm || isInsideItself || isTooDeep) && isSingleForm(form);
+  return (isMainForm || isInsideItself || isTooDeep) && kind.isFramed(form);
 }
 
-SubFormScope::SubFormScope(ConversionState& state, const LateBound& ctl, const LateBound& form)
+EmbeddedScope::EmbeddedScope(ConversionState& state, const LateBound& ctl, const LateBound& form,
+                             const EmbeddedKind& kind)
     : state_(state) {
-  state.openSubForms.push_back({form, nameOf(ctl, form)});
+  state.openSubForms.push_back({form, nameOf(ctl, form, kind)});
 }
 
-SubFormScope::~SubFormScope() { state_.openSubForms.pop_back(); }
+EmbeddedScope::~EmbeddedScope() { state_.openSubForms.pop_back(); }
 
 void closeLoadedForm(const MainObject& main, std::string_view name) {
   using namespace access_constants;

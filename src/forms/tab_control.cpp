@@ -31,7 +31,7 @@ using row_block::font;
 constexpr std::int64_t kRiseInSubForm = 240;
 
 void topInFrame(const PrintedControl& control, std::string_view, std::string& line) {
-  const std::int64_t top = GetFormSection(control.main, control.ctl);
+  const std::int64_t top = topInHand(control.main, control.ctl);
   line += std::to_string(control.state().blnInSubForm ? top - kRiseInSubForm : top);
 }
 
@@ -252,8 +252,9 @@ class TabControl {
     subFormName_.clear();
     LateBound form;
     statement([&] { subFormName_ = ctl.text("Name"); });
-    statement([&] { form = reachSubForm(state_, ctl, subFormName_); });
-    if (!form || isCutOff(state_, ctl, form)) return k;
+    const EmbeddedKind& kind = kindInHand(state_);
+    statement([&] { form = reachEmbedded(state_, ctl, subFormName_, kind); });
+    if (!form || isCutOff(state_, ctl, form, kind)) return k;
     Collection<LateBound> controls;
     std::int32_t count = 0;
     statement([&] {

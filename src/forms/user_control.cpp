@@ -64,8 +64,11 @@ bool isInOptionGroup(std::int32_t P, std::int32_t) { return P == control_type::k
 
 bool isIndented(const ConversionState& state) { return state.blnInOptionGroup; }
 
-constexpr WalkKind kCodeWalk = {"CreateVBUserControl", isInOptionGroup, isIndented,
-                                GetUserControlProps};
+constexpr WalkKind kCodeWalk = {.procedure = "CreateVBUserControl",
+                                .design = &ConversionState::frmCurr,
+                                .isLeftToContainer = isInOptionGroup,
+                                .isIndented = isIndented,
+                                .convert = GetUserControlProps};
 
 }  // namespace
 

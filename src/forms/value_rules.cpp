@@ -2,6 +2,7 @@
 #include "forms/value_rules.h"
 
 #include "forms/control_geometry.h"
+#include "forms/design_in_hand.h"
 #include "forms/font_block.h"
 #include "shared/text_procedures.h"
 #include "shared/value_tests.h"
@@ -47,6 +48,10 @@ void boolean(const PrintedControl& control, std::string_view property, std::stri
   line += isTrue(control.ctl.get(property)) ? "-1" : "0";
 }
 
+void trueOrFalse(const PrintedControl& control, std::string_view property, std::string& line) {
+  line += isTrue(control.ctl.get(property)) ? "-1  'True" : "0   'False";
+}
+
 void quotedText(const PrintedControl&, std::string_view text, std::string& line) {
   appendQuoted(line, text);
 }
@@ -78,8 +83,8 @@ void backColor(const PrintedControl& control, std::string_view, std::string& lin
   constexpr std::int32_t kTransparent = 0;
   if (!equals(control.ctl.get("BackStyle"), kTransparent)) return raw(control, "BackColor", line);
   const Value section = control.ctl.get("Section");
-  line += joined(
-      LateBound(toObject(control.state().frmCurr.get("Section", {section}))).get("BackColor"));
+  const LateBound& design = designInHand(control.state());
+  line += joined(LateBound(toObject(design.get("Section", {section}))).get("BackColor"));
 }
 
 void effectBorder(const PrintedControl& control, std::string_view, std::string& line) {
@@ -108,6 +113,10 @@ void left(const PrintedControl& control, std::string_view, std::string& line) {
 }
 
 void top(const PrintedControl& control, std::string_view, std::string& line) {
+  line += std::to_string(topInHand(control.main, control.ctl));
+}
+
+void formTop(const PrintedControl& control, std::string_view, std::string& line) {
   line += std::to_string(GetFormSection(control.main, control.ctl));
 }
 

@@ -19,6 +19,8 @@ void quotedTrim(const PrintedControl&, std::string_view property, std::string& l
 void quotedClean(const PrintedControl&, std::string_view property, std::string& line);
 // "-1" or "0".
 void boolean(const PrintedControl&, std::string_view property, std::string& line);
+// "-1  'True" or "0   'False".
+void trueOrFalse(const PrintedControl&, std::string_view property, std::string& line);
 // The fixed text between double quotes.
 void quotedText(const PrintedControl&, std::string_view text, std::string& line);
 
@@ -45,9 +47,11 @@ std::string field(const LateBound& ctl);
 // "Adodc" and intAdoCtlNum between double quotes.
 void quotedAdodc(const PrintedControl&, std::string_view, std::string& line);
 
-// Left inside the container, Top inside the container of a form, in twips.
+// Left and Top inside the container, in twips.
 void left(const PrintedControl&, std::string_view, std::string& line);
 void top(const PrintedControl&, std::string_view, std::string& line);
+// Top as in a form, of a control of a report too: kinds that forms alone know.
+void formTop(const PrintedControl&, std::string_view, std::string& line);
 
 // The saved size of the subform control in hand.
 void subFormHeight(const PrintedControl&, std::string_view, std::string& line);

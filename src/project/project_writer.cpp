@@ -56,6 +56,4 @@ void ProjectWriter::printCompilerLines() {
   for (const std::string_view line : kCompilerLines) print(line);
 }
 
-std::string inQuotes(std::string_view text) { return '"' + std::string(text) + '"'; }
-
 }  // namespace tarrowin

@@ -32,6 +32,4 @@ class ProjectWriter {
   Procedure procedure_;
 };
 
-std::string inQuotes(std::string_view text);
-
 }  // namespace tarrowin

@@ -108,6 +108,8 @@ std::string ExtractSetVariable(std::string_view line) {
   return Mid(line, start, end - start + 1);
 }
 
+std::string inQuotes(std::string_view text) { return '"' + std::string(text) + '"'; }
+
 std::string FirstQuotedText(std::string_view text) {
   const std::size_t opening = text.find('"');
   if (opening == std::string_view::npos) return {};

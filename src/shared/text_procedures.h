@@ -46,6 +46,9 @@ std::string ReplaceFirst(std::string& text, std::string_view find, std::string_v
 // when the "=" stands before that.
 std::string ExtractSetVariable(std::string_view line);
 
+// The text between double quotes.
+std::string inQuotes(std::string_view text);
+
 // What stands between the first two double quotes; empty when one is missing.
 std::string FirstQuotedText(std::string_view text);
 

@@ -24,7 +24,8 @@ constexpr std::string_view kOrders = R"({
   "recordsets": [
     {"source": "SELECT 1", "fields": [{"name": "Recorded", "type": 4, "size": 4}]},
     {"source": "SELECT * FROM Orders WHERE X = [p]", "error": 3061},
-    {"source": "SELECT 2", "error": 3078, "description": "Gone."}],
+    {"source": "SELECT 2", "error": 3078, "description": "Gone."},
+    {"source": "SELECT 3", "error": {"error": 3112, "description": "Denied."}}],
   "relations": [{"name": "CustomersOrders", "table": "Customers", "foreignTable": "Orders",
                  "fields": [{"name": "CustomerID", "foreignName": "CustID"}]}],
   "forms": [{"name": "frmB"}, {"name": "frmA"}], "reports": [{"name": "rptSales"}],
@@ -124,6 +125,7 @@ TEST_F(DaoTest, RecordedSourceComesFirst) {
   EXPECT_EQ(text(child(open("SELECT 1"), "Fields", {0}), "Name"), "Recorded");
   EXPECT_EQ(errorOf([&] { open("SELECT * FROM Orders WHERE X = [p]"); }), 3061);
   EXPECT_EQ(descriptionOf([&] { open("SELECT 2"); }), "Gone.");
+  EXPECT_EQ(descriptionOf([&] { open("SELECT 3"); }), "Denied.");
 }
 
 TEST_F(DaoTest, RecordsetOnATableOrQueryByName) {

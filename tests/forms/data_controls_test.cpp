@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/data_control_lines.h"
 #include "forms/printer_session.h"
 
 namespace tarrowin::test {
@@ -118,19 +119,9 @@ TEST_F(DataControls, ALowerCaseSelectIsPrintedAsItStandsAndIsANameToAnAdoDataCon
 TEST_F(DataControls, TheDataControlOfASubformIsIndentedAndClosedByItsName) {
   openSource("Orders");
   main.state.mstrDbName = "Orders.mdb";
-  EXPECT_EQ(subform(),
-            (Lines{"      Begin VB.Data Data1", "         Caption           = \"Data1\"",
-                   "         Connect           = \"Access 2000;\"",
-                   "         DatabaseName      = \"Orders.mdb\"",
-                   "         DefaultCursorType = 0   ' DefaultCursor",
-                   "         DefaultType       = 2   ' Use Jet DB engine",
-                   "         Exclusive         = 0   ' False", "         Height            = 330",
-                   "         Left              = 0", "         Options           = 0",
-                   "         ReadOnly          = 0   ' False",
-                   "         RecordsetType     = 1   ' Dynaset",
-                   "         RecordSource      = \"Orders\"", "         Top               = 3790",
-                   "         Visible           = 0   ' False", "         Width             = 1440",
-                   "      End   'Data1"}));
+  Lines expected = dataControlLines("   ", "Data1", 0, 3790, "Orders");
+  expected.push_back("      End   'Data1");
+  EXPECT_EQ(subform(), expected);
   EXPECT_TRUE(main.state.blnDataCtl);
   EXPECT_EQ(main.state.strIndent, "   ");
 }

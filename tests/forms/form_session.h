@@ -1,6 +1,7 @@
 // Forms for tests: entries of a snapshot, and a session that converts one form and gives its lines.
 #pragma once
 
+#include <functional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -88,6 +89,15 @@ class FormSession : public TestSession {
 
   std::vector<std::string> lines(const std::string& fileName) {
     return linesOf(fileContent(out() / fileName));
+  }
+
+  // The lines that something prints into a new output file.
+  std::vector<std::string> output(const std::function<void()>& print) {
+    const std::string path = (out() / "printed.frm").string();
+    files.Open(path, FileMode::kOutput, kOutputFile);
+    print();
+    files.Close(kOutputFile);
+    return linesOf(fileContent(path));
   }
 };
 

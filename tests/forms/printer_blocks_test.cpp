@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/printer_session.h"
+#include "forms/report_form_session.h"
 
 namespace tarrowin::test {
 namespace {
@@ -18,6 +19,12 @@ struct Position {
 };
 // In the Detail section, below both headers.
 constexpr Position kOnForm{kLeft, kTop + kFormHeaderHeight + kPageHeaderHeight};
+
+// What stands above section n of a form.
+constexpr int kOffsets[] = {
+    kFormHeaderHeight + kPageHeaderHeight, 0,
+    kFormHeaderHeight + kPageHeaderHeight + kDetailHeight + kPageFooterHeight, kFormHeaderHeight,
+    kFormHeaderHeight + kPageHeaderHeight + kDetailHeight};
 
 bool isWordCharacter(char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0; }
 
@@ -187,10 +194,6 @@ TEST_P(PrinterBlocks, OnTheSecondPageOfATabControl) {
 }
 
 TEST_P(PrinterBlocks, InEachSection) {
-  constexpr int kOffsets[] = {
-      kFormHeaderHeight + kPageHeaderHeight, 0,
-      kFormHeaderHeight + kPageHeaderHeight + kDetailHeight + kPageFooterHeight, kFormHeaderHeight,
-      kFormHeaderHeight + kPageHeaderHeight + kDetailHeight};
   std::vector<Json> controls;
   for (int n = 0; n < 5; ++n) {
     Json there = properties();
@@ -202,6 +205,33 @@ TEST_P(PrinterBlocks, InEachSection) {
     SCOPED_TRACE(n);
     main.state.strIndent = "";
     EXPECT_EQ(printCase("ctl" + std::to_string(n)), expected({kLeft, kTop + kOffsets[n]}));
+  }
+}
+
+// Kinds of controls that forms alone know are placed as in a form.
+TEST_P(PrinterBlocks, InEachSectionOfAReport) {
+  constexpr std::string_view kAsInAForm[] = {"CommonDialog", "ImageCombo", "ImageList", "ListView",
+                                             "ProgressBar",  "RichText",   "Slider",    "StatusBar",
+                                             "TabStrip",     "ToolBar",    "TreeView"};
+  const bool isPlacedAsInAForm = std::ranges::count(kAsInAForm, GetParam().name) == 1;
+  std::vector<Json> controls;
+  for (const StackedSection& there : kStack) {
+    Json all = properties();
+    all["Section"] = there.number;
+    controls.push_back(control("ctl" + std::to_string(there.number), GetParam().type, all));
+  }
+  openForm(controls);
+  main.state.mblnReportMode = true;
+  main.state.mrptCurr = main.state.frmCurr;
+  main.state.intRptHeights = thirteenHeights();
+  for (const auto& [number, above] : kStack) {
+    SCOPED_TRACE(number);
+    main.state.strIndent = "";
+    const std::string name = "ctl" + std::to_string(number);
+    int top = kTop + above;
+    // A form has no groups: their controls count from 0.
+    if (isPlacedAsInAForm) top = number < 5 ? kTop + kOffsets[number] : 0;
+    EXPECT_EQ(printCase(name), expected({kLeft, top}));
   }
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <algorithm>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,15 +43,6 @@ class PrinterSession : public FormSession {
 
   LateBound controlNamed(std::string_view name) {
     return LateBound(toObject(main.state.frmCurr.get("Controls", {Value(name)})));
-  }
-
-  // The lines that something prints into a new output file.
-  std::vector<std::string> output(const std::function<void()>& print) {
-    const std::string path = (out() / "printed.frm").string();
-    files.Open(path, FileMode::kOutput, kOutputFile);
-    print();
-    files.Close(kOutputFile);
-    return linesOf(fileContent(path));
   }
 
   std::vector<std::string> print(Printer printer, std::string_view name) {

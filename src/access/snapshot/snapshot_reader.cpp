@@ -192,7 +192,7 @@ class SnapshotReader {
     std::string source = values_.requiredTextIn(entry, "source");
     RecordsetModel recordset;
     recordset.error = values_.optionalErrorIn(entry, "error");
-    if (recordset.error)
+    if (recordset.error && !recordset.error->description)
       recordset.error->description = values_.optionalTextIn(entry, "description");
     if (const auto fields = entry.member("fields")) recordset.fields = readFields(*fields);
     database_.recordsets.emplace(std::move(source), std::move(recordset));
