@@ -2,15 +2,21 @@
 // an .mdb file) is reached from here, and nothing above this header knows which one is open.
 #pragma once
 
+#include <memory>
+
 #include "core/access_object.h"
 #include "shared/code_page.h"
 
 namespace tarrowin {
 
+class ReplaceOperations;  // access/snapshot/atomic_file.h
+
 struct HostOptions {
   // The ANSI code page of every text that passes the interface. Under CodePage::kUtf8 no character
   // is lost, which is what a recording wants.
   CodePage codePage{CodePage::kWestern};
+  // How new objects are written; without one by the operations of the disk.
+  std::shared_ptr<ReplaceOperations> operations = nullptr;
 };
 
 // The machine. Its members, matched like all names without regard to case:
@@ -35,12 +41,17 @@ struct HostOptions {
 //
 // The application that CreateObject gives answers the object model of Access and DAO:
 // Visible, OpenCurrentDatabase(path, exclusive), CloseCurrentDatabase, Quit(option), CurrentDb,
-// DoCmd, Forms, Reports, Modules, References. Collections answer get Count and get "" with a
-// 0-based index or a name. Paths are texts of the code page; a path that names an existing file
-// byte for byte is taken first. OpenCurrentDatabase raises 0x80004005 for what is no database, is
-// damaged or cannot be read, 7866 for a newer format, 3031 for a password, 7867 when a database is
-// open already, or what the recording says. An object of a closed form or report raises 2467, DoCmd
-// of a closed database 91; DAO's objects go on answering for as long as they are held.
+// DoCmd, Forms, Reports, Modules, References, CreateForm(database, template name),
+// CreateControl(form name, type, section, parent name, column name, left, top, width, height),
+// RefreshDatabaseWindow. New forms (DoCmd.Close with save option 1) and the modules of converted
+// macros (DoCmd.RunCommand 279) are kept in the recording, or in a recording beside a source that
+// cannot be written; what cannot be kept raises 3026, 3027, 3043, 3045 or 3197 with the file and
+// the reason, and changes nothing (access/model/object_keeper.h). Collections answer get Count and
+// get "" with a 0-based index or a name. Paths are texts of the code page; a path that names an
+// existing file byte for byte is taken first. OpenCurrentDatabase raises 0x80004005 for what is no
+// database, is damaged or cannot be read, 7866 for a newer format, 3031 for a password, 7867 when a
+// database is open already, or what the recording says. An object of a closed form or report raises
+// 2467, DoCmd of a closed database 91; DAO's objects go on answering for as long as they are held.
 ObjectRef createAccessHost(HostOptions options = {});
 
 }  // namespace tarrowin

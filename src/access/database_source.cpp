@@ -5,20 +5,22 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "access/mdb/mdb_database.h"
 #include "access/model/mdb_model.h"
+#include "access/snapshot/snapshot_keeper.h"
 #include "access/snapshot/snapshot_reader.h"
+#include "access/snapshot/whole_file.h"
 #include "access/vba/vba_project.h"
 
 namespace tarrowin {
 
 namespace {
 
-// A recording larger than this is refused rather than read into memory.
-constexpr std::size_t kLargestRecording = std::size_t{512} << 20;
 // How far a recording's first character is looked for.
 constexpr std::size_t kHeadSize = 4096;
 
@@ -38,23 +40,21 @@ bool startsLikeRecording(std::string_view head) {
   return first != std::string_view::npos && head[first] == '{';
 }
 
-std::string readWhole(const std::string& path) {
-  std::ifstream file(path, std::ios::binary | std::ios::ate);
-  const auto size = static_cast<std::size_t>(file.tellg());
-  if (!file) throw OpenFailure(kErrAutomationFail, "cannot be read");
-  if (size > kLargestRecording)
+std::string readRecordingText(const std::string& path) {
+  std::error_code error;
+  if (std::filesystem::file_size(path, error) > kLargestRecording && !error)
     throw OpenFailure(kErrAutomationFail,
                       "is larger than " + std::to_string(kLargestRecording >> 20) + " MB");
-  std::string text(size, '\0');
-  file.seekg(0);
-  file.read(text.data(), static_cast<std::streamsize>(size));
-  if (!file) throw OpenFailure(kErrAutomationFail, "cannot be read");
-  return text;
+  std::optional<std::string> text = readWholeFile(path);
+  if (!text) throw OpenFailure(kErrAutomationFail, "cannot be read");
+  return *std::move(text);
 }
 
-std::unique_ptr<DatabaseModel> openRecording(const std::string& path, const CodePage& codePage) {
+// Runs what reads a recording.
+template <class Action>
+auto readingRecording(Action action) {
   try {
-    return readSnapshot(readWhole(path), codePage);
+    return action();
   } catch (const NewerSnapshot& error) {
     throw OpenFailure(kErrNewerFormat, error.message());
   } catch (const SnapshotError& error) {
@@ -90,6 +90,21 @@ std::unique_ptr<DatabaseModel> openMdb(const std::string& path, const CodePage& 
   }
 }
 
+// Reads the new objects that are kept beside the source; their file's hash, none without them.
+std::optional<std::size_t> addNewObjects(const std::string& path, DatabaseModel& model) {
+  std::error_code error;
+  if (!std::filesystem::exists(path, error)) return std::nullopt;
+  try {
+    const std::string text = readRecordingText(path);
+    readingRecording([&] { readNewObjects(text, model); });
+    return contentHash(text);
+  } catch (const OpenFailure& failure) {
+    throw OpenFailure(failure.number(), "the new objects beside it, " +
+                                            std::filesystem::path(path).filename().string() + ": " +
+                                            failure.reason());
+  }
+}
+
 }  // namespace
 
 bool isRecording(const std::string& path) {
@@ -101,16 +116,30 @@ bool isRecording(const std::string& path) {
   return startsLikeRecording(head);
 }
 
-std::unique_ptr<DatabaseModel> openDatabaseFile(const std::string& path, const CodePage& codePage) {
+std::unique_ptr<DatabaseModel> openDatabaseFile(const std::string& path, const CodePage& codePage,
+                                                std::shared_ptr<ReplaceOperations> operations) {
   if (const std::string problem = problemWith(path); !problem.empty())
     throw OpenFailure(kErrAutomationFail, problem);
-  auto model = isRecording(path) ? openRecording(path, codePage) : openMdb(path, codePage);
+  std::unique_ptr<DatabaseModel> model;
+  KeptFile ownFile{path, std::nullopt};
+  if (isRecording(path)) {
+    const std::string text = readRecordingText(path);
+    model = readingRecording([&] { return readSnapshot(text, codePage); });
+    ownFile.hash = contentHash(text);
+  } else {
+    model = openMdb(path, codePage);
+  }
   model->path = path;
   if (model->name.empty()) {
     std::error_code error;
     const auto absolute = std::filesystem::absolute(path, error);
     model->name = codePage.fromUtf8(error ? path : absolute.string());
   }
+  KeptFile beside{newObjectsPath(path), std::nullopt};
+  beside.hash = addNewObjects(beside.path, *model);
+  const bool keepsItself = model->recording && !beside.hash && ::access(path.c_str(), W_OK) == 0;
+  model->keeper = makeSnapshotKeeper(*model, keepsItself ? std::move(ownFile) : std::move(beside),
+                                     std::move(operations));
   return model;
 }
 

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "access/model/database_model.h"
+#include "access/snapshot/atomic_file.h"
 
 namespace tarrowin {
 
@@ -31,8 +32,13 @@ class OpenFailure : public std::exception {
 inline constexpr std::int32_t kErrNewerFormat = 7866;
 inline constexpr std::int32_t kErrPassword = 3031;
 
-// The tree of the database at that path (as the disk knows it). Throws OpenFailure.
-std::unique_ptr<DatabaseModel> openDatabaseFile(const std::string& path, const CodePage& codePage);
+// The tree of the database at that path (as the disk knows it), with the new objects that are kept
+// beside it and a keeper for more, which writes by these operations or by the disk's own. A
+// recording keeps its new objects in itself, unless it is write-protected or has some beside it
+// already. Throws OpenFailure.
+std::unique_ptr<DatabaseModel> openDatabaseFile(
+    const std::string& path, const CodePage& codePage,
+    std::shared_ptr<ReplaceOperations> operations = nullptr);
 
 // Whether the file is a recording: its first character, behind a byte order mark and blanks, is a
 // "{". False for what cannot be read.

@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include "access/access_host.h"
+#include "access/snapshot/atomic_file.h"
 
 namespace tarrowin {
 
@@ -78,10 +79,17 @@ class AccessTest : public testing::Test {
     std::filesystem::remove_all(directory, ignored);
   }
 
+  std::size_t filesInDirectory() const {
+    std::size_t count = 0;
+    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(directory))
+      ++count;
+    return count;
+  }
+
   std::string pathOf(std::string_view name) const { return (directory / name).string(); }
 
   void startHost(CodePage page = CodePage()) {
-    host = createAccessHost({page});
+    host = createAccessHost({page, diskOperations});
     application = toObject(call(host, "CreateObject", {"Access.Application"}));
   }
   // Writes the recording, opens it, and takes its database.
@@ -101,12 +109,30 @@ class AccessTest : public testing::Test {
     call(doCmd, "OpenForm", {name, 1, Value(), Value(), -1, 1});
     return child(application, "Forms", {name});
   }
+  // The names of the documents of a container, with a blank behind each.
+  std::string documents(const char* container) const {
+    std::string names;
+    const ObjectRef list = child(child(database, "Containers", {container}), "Documents");
+    for (std::int32_t i = 0; i < number(list, "Count"); ++i)
+      names += text(item(list, i), "Name") + " ";
+    return names;
+  }
+  ObjectRef createForm(const std::string& templateName) {
+    return toObject(call(application, "CreateForm", {Value(), templateName}));
+  }
+  void closeAndSave(const std::string& form) { call(doCmd, "Close", {2, form, 1}); }
+  void convertMacro(const std::string& name) {
+    call(doCmd, "SelectObject", {4, name, true});
+    call(doCmd, "RunCommand", {279});
+  }
+
   ObjectRef openReport(const std::string& name) {
     call(doCmd, "OpenReport", {name, 1});
     return child(application, "Reports", {name});
   }
 
   std::filesystem::path directory;
+  std::shared_ptr<ReplaceOperations> diskOperations;  // of the hosts that are started
   ObjectRef host, application, database, doCmd;
 };
 

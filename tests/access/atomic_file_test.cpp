@@ -1,57 +1,17 @@
 // Replacing a file: all or nothing, whatever step fails.
 #include "access/snapshot/atomic_file.h"
 
-#include <cerrno>
-
 #include <nlohmann/json.hpp>
 #include <sys/stat.h>
 
 #include "access/access_fixture.h"
+#include "access/failing_operations.h"
 #include "access/snapshot/snapshot_document.h"
 
 namespace tarrowin {
 namespace {
 
-class AtomicFileTest : public AccessTest {
- protected:
-  std::size_t filesInDirectory() const {
-    std::size_t count = 0;
-    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(directory))
-      ++count;
-    return count;
-  }
-};
-
-// Lets the n-th operation, from 1, fail.
-class FailingOperations : public ReplaceOperations {
- public:
-  explicit FailingOperations(int failing) : failing_(failing) {}
-  int createTemporary(const std::string& prefix, std::string& path, int& handle) override {
-    return fails() ? EACCES : ReplaceOperations::createTemporary(prefix, path, handle);
-  }
-  int write(int handle, std::string_view bytes) override {
-    if (!fails()) return ReplaceOperations::write(handle, bytes);
-    ReplaceOperations::write(handle, bytes.substr(0, bytes.size() / 2));
-    return ENOSPC;
-  }
-  int copyPermissions(int handle, const std::string& from) override {
-    return fails() ? EPERM : ReplaceOperations::copyPermissions(handle, from);
-  }
-  int flush(int handle) override { return fails() ? EIO : ReplaceOperations::flush(handle); }
-  int close(int handle) override {
-    const bool failing = fails();
-    const int result = ReplaceOperations::close(handle);
-    return failing ? EIO : result;
-  }
-  int rename(const std::string& from, const std::string& to) override {
-    return fails() ? EACCES : ReplaceOperations::rename(from, to);
-  }
-
- private:
-  bool fails() { return ++operation_ == failing_; }
-  int failing_;
-  int operation_ = 0;
-};
+class AtomicFileTest : public AccessTest {};
 
 TEST_F(AtomicFileTest, ReplacesTheFile) {
   writeFile(pathOf("a"), "old");

@@ -9,11 +9,11 @@ constexpr std::string_view kModules = R"({
   "forms": [{"name": "frmMain", "module": "Option Explicit\n' \u20AC\r\n"}, {"name": "frmBare"},
             {"name": "frmNoExport", "module": "x", "exportError": {"error": 2220, "description": "No."}}],
   "reports": [{"name": "rptSales", "module": "Report code"}],
-  "macros": [{"name": "AutoExec"}, {"name": "Locked", "openError": 2601}],
   "modules": [{"name": "Utilities", "type": 0, "text": "Option Compare Database\r\nSub A()\nEnd Sub"},
               {"name": "clsOrder", "type": 2, "text": "", "countOfLines": 12},
               {"name": "Closed", "text": "x", "openError": 7961},
-              {"name": "NoExport", "text": "x", "exportError": 2601}]
+              {"name": "NoExport", "text": "x", "exportError": 2601},
+              {"name": "NoCount", "text": "x", "countOfLines": {"error": 2467}}]
 })";
 
 class DoCmdTest : public AccessTest {
@@ -49,6 +49,10 @@ TEST_F(DoCmdTest, ModuleIsInModulesWhileItIsOpen) {
   EXPECT_EQ(number(module, "CountOfLines"), 3);
   EXPECT_EQ(number(child(application, "Modules", {1}), "CountOfLines"), 12);
   EXPECT_EQ(number(child(application, "Modules", {1}), "Type"), 2);
+  call(doCmd, "OpenModule", {"NoCount"});
+  const ObjectRef uncounted = child(application, "Modules", {"NoCount"});
+  EXPECT_EQ(errorOf([&] { get(uncounted, "CountOfLines"); }), 2467);
+  call(doCmd, "Close", {5, "NoCount", 0});
   call(doCmd, "Close", {5, "Utilities", 0});
   EXPECT_EQ(errorOf([&] { get(application, "Modules", {"Utilities"}); }), 7961);
   EXPECT_EQ(number(child(application, "Modules"), "Count"), 1);
@@ -78,16 +82,6 @@ TEST_F(DoCmdTest, OutputToFailures) {
   EXPECT_EQ(errorOf([&] { call(doCmd, "OutputTo", {2, "frmMain", "", pathOf("x")}); }), 2487);
   EXPECT_FALSE(std::filesystem::exists(pathOf("x")));
   EXPECT_EQ(errorOf([&] { exportTo("Utilities", pathOf("no/such/dir")); }), 2302);
-}
-
-TEST_F(DoCmdTest, ConvertingAMacroIsNotAvailable) {
-  call(doCmd, "SelectObject", {4, "AutoExec", true});
-  EXPECT_EQ(errorOf([&] { call(doCmd, "RunCommand", {279}); }), 2046);
-}
-
-TEST_F(DoCmdTest, ConvertingALockedMacroRaisesItsRecordedError) {
-  call(doCmd, "SelectObject", {4, "locked", true});
-  EXPECT_EQ(errorOf([&] { call(doCmd, "RunCommand", {279}); }), 2601);
 }
 
 }  // namespace

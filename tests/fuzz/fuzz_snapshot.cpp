@@ -1,4 +1,5 @@
-// libFuzzer target: any bytes as a recording; what can be read is walked through and printed again.
+// libFuzzer target: any bytes as a recording; what can be read is walked through and printed again,
+// and new objects are added to its text, which must then be read with them.
 // Seeds: small recordings. Run with -timeout=5.
 #include <cstddef>
 #include <cstdint>
@@ -7,8 +8,12 @@
 
 #include "access/model/dao_objects.h"
 #include "access/model/design_objects.h"
+#include "access/model/new_control.h"
+#include "access/model/new_form.h"
 #include "access/recorder_dao.h"
+#include "access/snapshot/object_writer.h"
 #include "access/snapshot/snapshot_document.h"
+#include "access/snapshot/snapshot_edit.h"
 #include "access/snapshot/snapshot_reader.h"
 
 namespace {
@@ -37,6 +42,38 @@ void walkDesign(const std::shared_ptr<Session>& session, const DesignModel& desi
   }
 }
 
+// The texts of a new form like that one, with a control of each type, and of a new module.
+std::string newFormEntry(Session& session, const DesignModel& form) {
+  const std::shared_ptr<OpenDesign> open = createForm(session, form.name);
+  for (std::int32_t type = 99; type <= 130; ++type) {
+    try {
+      NewControl wanted;
+      wanted.type = type;
+      addControl(*open, session.tree(), wanted);
+    } catch (const VbError&) {
+    }
+  }
+  return formEntry(open->design(), session.model());
+}
+
+void addObjects(std::string_view text, Session& session) {
+  const DatabaseModel& database = session.model();
+  const ModuleModel module{"Added", 0, std::string("x"), {}, {}, {}};
+  std::string changed =
+      withEntry(text, "modules", moduleEntry(module, database.codePage), SIZE_MAX);
+  std::size_t forms = database.forms.size();
+  if (forms > 0) {
+    try {
+      changed = withEntry(changed, "forms", newFormEntry(session, database.forms[0]), SIZE_MAX);
+      ++forms;
+    } catch (const VbError&) {
+    }
+  }
+  const auto again = readSnapshot(changed, database.codePage);
+  if (again->modules.size() != database.modules.size() + 1 || again->forms.size() != forms)
+    __builtin_trap();
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -51,6 +88,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     recordRelations(database);
     for (const DesignModel& form : session->model().forms) walkDesign(session, form, false);
     for (const DesignModel& report : session->model().reports) walkDesign(session, report, true);
+    addObjects(text, *session);
   } catch (const SnapshotError&) {
   }
   return 0;

@@ -1,8 +1,6 @@
 // Opening and closing a database, and the collections of what is open in it.
 #include "access/model/application_object.h"
 
-#include <fstream>
-#include <iterator>
 #include <utility>
 
 #include "access/database_source.h"
@@ -11,6 +9,9 @@
 #include "access/model/design_objects.h"
 #include "access/model/do_cmd_object.h"
 #include "access/model/module_object.h"
+#include "access/model/new_control.h"
+#include "access/model/new_form.h"
+#include "access/model/object_keeper.h"
 #include "access/model/reference_object.h"
 
 namespace tarrowin {
@@ -89,6 +90,12 @@ Value ApplicationObject::invoke(const MemberUse& use) {
       raiseIfRecorded(errors().Quit);
       quit();
       return {};
+    case Member::kCreateForm:
+      return makeDesign(openSession(), createForm(*openSession(), toText(use.argument(1))));
+    case Member::kCreateControl:
+      return createControl(use);
+    case Member::kRefreshDatabaseWindow:
+      return {};
     default:
       return read(use);
   }
@@ -136,6 +143,32 @@ void ApplicationObject::quit() {
   closeCurrentDatabase();
   running_ = false;
   host_->application.reset();
+}
+
+const std::shared_ptr<Session>& ApplicationObject::openSession() const {
+  if (!session_) raise(kErrObjectNotSet);
+  return session_;
+}
+
+// CreateControl(form, type, section, parent, column, left, top, width, height)
+Value ApplicationObject::createControl(const MemberUse& use) {
+  const std::shared_ptr<Session>& session = openSession();
+  const std::string name = toText(use.argument(0));
+  const std::size_t index =
+      positionOfName(session->openForms, name, session->model().folding,
+                     [](const auto& open) -> const std::string& { return open->source()->name; });
+  if (index >= session->openForms.size()) raise(design_error::kNoFormOfThatName, name);
+  const std::shared_ptr<OpenDesign> open = session->openForms[index];
+  NewControl wanted;
+  wanted.type = toLong(use.argument(1));
+  wanted.section = toLong(use.argument(2));
+  wanted.parent = toText(use.argument(3));
+  wanted.columnName = toText(use.argument(4));
+  wanted.left = use.argument(5);
+  wanted.top = use.argument(6);
+  wanted.width = use.argument(7);
+  wanted.height = use.argument(8);
+  return makeControl(session, open, addControl(*open, session->tree(), wanted));
 }
 
 Value ApplicationObject::designs(bool reports, const MemberUse& use) {
@@ -191,13 +224,9 @@ Value ApplicationObject::modules(const MemberUse& use) {
 
 // The recording itself, for a recorder that would otherwise lose what the interface does not show.
 Value ApplicationObject::recordedDocument(const MemberUse& use) const {
-  if (!session_ || !session_->model().recording) raise(kErrNoSuchMember, use.name);
-  const std::string& path = session_->model().path;
-  std::ifstream file(path, std::ios::binary);
-  std::string text((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-  if (!file.good() && !file.eof()) throw VbError(kErrAutomationFail, path + ": cannot be read");
-  if (text.empty()) throw VbError(kErrAutomationFail, path + ": is no longer there");
-  return text;
+  if (!session_ || !session_->model().recording || !session_->model().keeper)
+    raise(kErrNoSuchMember, use.name);
+  return session_->model().keeper->document();
 }
 
 }  // namespace tarrowin

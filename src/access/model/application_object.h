@@ -51,6 +51,9 @@ class ApplicationObject : public NamedObject {
   [[noreturn]] void fail(const std::string& path, std::int32_t number, const std::string& reason);
   void closeCurrentDatabase();
   void quit();
+  // Raises 91 while no database is open.
+  const std::shared_ptr<Session>& openSession() const;
+  Value createControl(const MemberUse& use);
   Value designs(bool reports, const MemberUse& use);
   Value modules(const MemberUse& use);
   Value recordedDocument(const MemberUse& use) const;

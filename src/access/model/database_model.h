@@ -12,6 +12,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "access/macro/macro_action.h"
 #include "access/model/case_folding.h"
 #include "access/model/lazy.h"
 #include "access/model/name_table.h"
@@ -107,16 +108,10 @@ struct DesignModel {
   std::optional<RecordedError> openError, exportError;
 };
 
-struct MacroAction {
-  std::string macroName, condition, action;
-  std::vector<std::string> arguments;
-  std::string comment;
-};
-
 struct MacroModel {
   std::string name;
   std::optional<std::string> module;  // the text of the module that Access makes of the macro
-  std::vector<MacroAction> actions;
+  Lazy<std::vector<MacroAction>> actions;
   std::optional<RecordedError> openError;
 };
 
@@ -132,6 +127,8 @@ struct ModuleModel {
 struct ApplicationErrors {
   std::optional<RecordedError> OpenCurrentDatabase, CloseCurrentDatabase, Quit, Visible, CurrentDb;
 };
+
+class ObjectKeeper;
 
 struct DatabaseModel {
   explicit DatabaseModel(const CodePage& page) : codePage(page), folding(page), names(folding) {}
@@ -158,6 +155,9 @@ struct DatabaseModel {
   NamedList<ModuleModel> modules;
   // Properties of a new control by ControlType.
   std::map<std::int32_t, PropertyBag> controlTemplates;
+
+  // Without one, new objects last as long as the database is open.
+  std::shared_ptr<ObjectKeeper> keeper;
 };
 
 // DAO's Size of a field of that type where nothing else is known: 4 for a Long, 255 for a Text.

@@ -1,8 +1,7 @@
-// The collections of a design: controls and properties.
+// The collections of a design. Its controls as a source.
 #include <string>
 #include <utility>
 
-#include "access/model/dao_objects.h"
 #include "access/model/design_objects.h"
 
 namespace tarrowin {
@@ -38,6 +37,12 @@ ObjectRef makeDesignCollection(std::shared_ptr<Session> session, std::shared_ptr
                                                            std::move(source));
 }
 
+ObjectRef makeDesignCollection(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
+                               PropertySource source) {
+  return std::make_shared<DesignCollection<PropertySource>>(std::move(session), std::move(open),
+                                                            std::move(source));
+}
+
 ControlSource::ControlSource(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
                              ControlList controls, std::int32_t pastEnd, std::int32_t missing)
     : session_(std::move(session)),
@@ -58,22 +63,6 @@ void ControlSource::missingName(std::string_view name) const { raise(missing_, n
 
 void ControlSource::missingIndex(std::int32_t index) const {
   raise(pastEnd_, std::to_string(index));
-}
-
-CollectionSource propertyCollection(std::shared_ptr<Session> session,
-                                    std::shared_ptr<const PropertyBag> properties) {
-  const NameTable* names = &session->model().names;
-  CollectionSource source;
-  source.count = [properties] { return properties->size(); };
-  source.find = [properties, names](std::string_view name) {
-    return properties->find(names->find(name));
-  };
-  source.item = [properties, names, session = std::move(session)](std::size_t i) {
-    return makeProperty(session, names->spelling(properties->nameAt(i)), properties->valueAt(i));
-  };
-  source.missingName = [](std::string_view name) { raise(design_error::kInvalidProperty, name); };
-  source.missingIndex = [](std::int32_t) { raise(design_error::kNoPropertyNumber); };
-  return source;
 }
 
 }  // namespace tarrowin

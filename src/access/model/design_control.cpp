@@ -2,17 +2,19 @@
 #include <utility>
 
 #include "access/model/design_objects.h"
+#include "access/model/property_writing.h"
 
 namespace tarrowin {
 
 namespace {
 
 constexpr std::int32_t kSubform = 112, kTabControl = 123;
+constexpr std::size_t kLongestName = 64;
 
-class Control : public DesignObject {
+class Control : public PropertyOwner {
  public:
   Control(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open, std::size_t control)
-      : DesignObject(std::move(session), std::move(open)), control_(control) {}
+      : PropertyOwner(std::move(session), std::move(open)), control_(control) {}
 
  protected:
   Reading tryRead(const MemberUse& use) override {
@@ -38,7 +40,7 @@ class Control : public DesignObject {
       case Member::kReport:
         return answered(subform(model().reports, "Report.", true));
       case Member::kProperties:
-        return answered(collectionOrItem(propertyCollection(sessionRef(), allProperties()), use));
+        return answered(propertiesOrItem(use));
       default:
         break;
     }
@@ -47,14 +49,31 @@ class Control : public DesignObject {
   }
 
   void write(const MemberUse& use, const Value& value) override {
-    if (use.member() == Member::kName) {
-      open().edit().controls[control_].name = toText(value);
-      return;
-    }
-    const std::size_t index = self().properties.find(use.key);
+    if (use.member() == Member::kName) return rename(toText(value));
+    if (use.member() == Member::kControlType) raise(design_error::kReadOnlyProperty);
+    const std::size_t index = properties().find(use.key);
     if (index == PropertyBag::kNotFound) raise(kErrNoSuchMember, use.name);
-    const NameId name = self().properties.nameAt(index);
-    open().edit().controls[control_].properties.set(model().names, name, value);
+    switch (use.member()) {
+      case Member::kControlName:
+        return rename(toText(value));
+      case Member::kEventProcPrefix:
+      case Member::kPageIndex:
+      case Member::kInSelection:
+        raise(design_error::kReadOnlyProperty);
+      default:
+        break;
+    }
+    const NameId name = properties().nameAt(index);
+    Value written = writtenValue(self().type, model().names.spelling(name), value);
+    open().edit().controls[control_].properties.set(model().names, name, std::move(written));
+  }
+
+  const PropertyBag& properties() const override { return self().properties; }
+  std::vector<Member> derivedProperties() const override {
+    std::vector<Member> derived;
+    for (const Member member : {Member::kName, Member::kControlType})
+      if (!self().properties.valueOf(static_cast<NameId>(member))) derived.push_back(member);
+    return derived;
   }
 
  private:
@@ -66,20 +85,22 @@ class Control : public DesignObject {
     return makeControl(sessionRef(), openRef(), holder);
   }
 
-  // Name and ControlType, where they are not recorded, then the recorded properties.
-  std::shared_ptr<const PropertyBag> allProperties() const {
-    const ControlModel& control = self();
-    const NameTable& names = model().names;
-    auto all = std::make_shared<PropertyBag>();
-    const auto addDerived = [&](Member member, Value value) {
+  // A name is of one control, and the properties that repeat it follow.
+  void rename(const std::string& name) {
+    if (name.empty() || name.size() > kLongestName) raise(design_error::kInvalidSetting);
+    const auto& controls = design().controls;
+    for (std::size_t i = 0; i < controls.size(); ++i)
+      if (i != control_ && model().folding.equal(controls[i].name, name))
+        raise(design_error::kControlNameTaken, name);
+    ControlModel& control = open().edit().controls[control_];
+    control.name = name;
+    const auto repeat = [&](Member member, const std::string& text) {
       const NameId key = static_cast<NameId>(member);
-      if (!control.properties.valueOf(key)) all->set(names, key, std::move(value));
+      if (control.properties.valueOf(key)) control.properties.set(model().names, key, Value(text));
     };
-    addDerived(Member::kName, control.name);
-    addDerived(Member::kControlType, control.type);
-    for (std::size_t i = 0; i < control.properties.size(); ++i)
-      all->set(names, control.properties.nameAt(i), control.properties.valueAt(i));
-    return all;
+    repeat(Member::kName, name);
+    repeat(Member::kControlName, name);
+    repeat(Member::kEventProcPrefix, eventPrefixOf(name));
   }
 
   // The form or report that a subform control shows.

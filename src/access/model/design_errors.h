@@ -5,6 +5,8 @@
 
 namespace tarrowin::design_error {
 
+inline constexpr std::int32_t kInvalidSetting = 2101;
+inline constexpr std::int32_t kControlNameTaken = 2104;
 inline constexpr std::int32_t kReadOnlyProperty = 2135;
 inline constexpr std::int32_t kNoFormOfThatName = 2450;  // also a form's default member
 inline constexpr std::int32_t kInvalidParent = 2452;

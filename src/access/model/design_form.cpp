@@ -3,15 +3,18 @@
 
 #include "access/model/design_objects.h"
 #include "access/model/module_object.h"
+#include "access/model/property_writing.h"
 
 namespace tarrowin {
 
 namespace {
 
-class FormOrReport : public DesignObject {
+constexpr const char* kNewModuleText = "Option Compare Database\r\n";
+
+class FormOrReport : public PropertyOwner {
  public:
   FormOrReport(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open)
-      : DesignObject(std::move(session), std::move(open)) {}
+      : PropertyOwner(std::move(session), std::move(open)) {}
 
  protected:
   Reading tryRead(const MemberUse& use) override {
@@ -25,10 +28,7 @@ class FormOrReport : public DesignObject {
       case Member::kControls:
         return answered(collectionOrItem(controls(), use));
       case Member::kProperties:
-        return answered(collectionOrItem(
-            propertyCollection(sessionRef(),
-                               std::shared_ptr<const PropertyBag>(openRef(), &design().properties)),
-            use));
+        return answered(propertiesOrItem(use));
       case Member::kSection:
         return answered(section(use.argument(0)));
       case Member::kGroupLevel:
@@ -55,12 +55,31 @@ class FormOrReport : public DesignObject {
 
   void write(const MemberUse& use, const Value& value) override {
     if (use.member() == Member::kName) raise(design_error::kReadOnlyProperty);
-    const std::size_t index = design().properties.find(use.key);
+    if (use.member() == Member::kHasModule) return setHasModule(toBoolean(value));
+    const std::size_t index = properties().find(use.key);
     if (index == PropertyBag::kNotFound) raise(design_error::kNoField, use.name);
-    open().edit().properties.set(model().names, design().properties.nameAt(index), value);
+    if (use.member() == Member::kFormName) raise(design_error::kReadOnlyProperty);
+    const NameId name = properties().nameAt(index);
+    Value written =
+        open().isReport() ? value : writtenValue(kFormObject, model().names.spelling(name), value);
+    open().edit().properties.set(model().names, name, std::move(written));
   }
 
+  const PropertyBag& properties() const override { return design().properties; }
+
  private:
+  // A new class module has what Access begins one with; taking it away takes its code.
+  void setHasModule(bool hasModule) {
+    DesignModel& changed = open().edit();
+    if (hasModule != changed.module.get().has_value()) {
+      changed.module = hasModule ? std::optional<std::string>(kNewModuleText) : std::nullopt;
+      changed.countOfLines = std::optional<std::int32_t>();
+    }
+    if (changed.properties.valueOf(static_cast<NameId>(Member::kHasModule)))
+      changed.properties.set(model().names, static_cast<NameId>(Member::kHasModule),
+                             Value(hasModule));
+  }
+
   ControlSource controls(std::int32_t missing = design_error::kNoField) {
     return controlSource(open().controlIndex().all(), design_error::kNoField, missing);
   }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "access/model/design_errors.h"
 #include "access/model/model_object.h"
@@ -53,11 +54,45 @@ class DesignObject : public SessionObject {
   std::shared_ptr<OpenDesign> open_;
 };
 
+// A design object with properties.
+class PropertyOwner : public DesignObject {
+ protected:
+  using DesignObject::DesignObject;
+
+  // As they look now.
+  virtual const PropertyBag& properties() const = 0;
+  // The members that Properties has in front of them.
+  virtual std::vector<Member> derivedProperties() const { return {}; }
+  // What Properties gives: its members are read and written as the object's own.
+  Value propertiesOrItem(const MemberUse& use);
+
+ private:
+  friend class PropertySource;
+};
+
+// The properties of an owner as the source of a collection: 2455 for a name that is not
+// there, 2480 for an index.
+class PropertySource {
+ public:
+  explicit PropertySource(std::shared_ptr<PropertyOwner> owner);
+
+  std::size_t count() const;
+  ObjectRef item(std::size_t index) const;
+  std::size_t find(std::string_view name) const;
+  [[noreturn]] void missingName(std::string_view name) const;
+  [[noreturn]] void missingIndex(std::int32_t index) const;
+
+ private:
+  std::shared_ptr<PropertyOwner> owner_;
+};
+
 // A collection that is alive as long as the form or report is open.
 ObjectRef makeDesignCollection(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
                                CollectionSource source);
 ObjectRef makeDesignCollection(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
                                ControlSource source);
+ObjectRef makeDesignCollection(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
+                               PropertySource source);
 
 template <class Source>
 Value DesignObject::collectionOrItem(const Source& source, const MemberUse& use) const {
@@ -81,10 +116,5 @@ ObjectRef makeControl(std::shared_ptr<Session> session, std::shared_ptr<OpenDesi
 
 ObjectRef makeGroupLevel(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open,
                          std::size_t level);
-
-// Properties by name or 0-based index, each with Name and Value: 2455 for a name that is not
-// there, 2480 for an index. The list goes by value since a change of the design moves it.
-CollectionSource propertyCollection(std::shared_ptr<Session> session,
-                                    std::shared_ptr<const PropertyBag> properties);
 
 }  // namespace tarrowin

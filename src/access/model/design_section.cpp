@@ -2,15 +2,16 @@
 #include <utility>
 
 #include "access/model/design_objects.h"
+#include "access/model/property_writing.h"
 
 namespace tarrowin {
 
 namespace {
 
-class Section : public DesignObject {
+class Section : public PropertyOwner {
  public:
   Section(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open, std::size_t section)
-      : DesignObject(std::move(session), std::move(open)), section_(section) {}
+      : PropertyOwner(std::move(session), std::move(open)), section_(section) {}
 
  protected:
   Reading tryRead(const MemberUse& use) override {
@@ -26,44 +27,43 @@ class Section : public DesignObject {
                                            design_error::kObjectClosed),
                              use));
       case Member::kProperties:
-        return answered(collectionOrItem(
-            propertyCollection(sessionRef(),
-                               std::shared_ptr<const PropertyBag>(openRef(), &section.properties)),
-            use));
+        return answered(propertiesOrItem(use));
       default:
         return failed(kErrNoSuchMember, use.name);
     }
   }
 
   void write(const MemberUse& use, const Value& value) override {
-    const PropertyBag& properties = design().sections[section_].properties;
-    const std::size_t index = properties.find(use.key);
+    const std::size_t index = properties().find(use.key);
     if (index == PropertyBag::kNotFound) raise(kErrNoSuchMember, use.name);
-    const NameId name = properties.nameAt(index);
-    open().edit().sections[section_].properties.set(model().names, name, value);
+    if (use.member() == Member::kEventProcPrefix || use.member() == Member::kInSelection)
+      raise(design_error::kReadOnlyProperty);
+    const NameId name = properties().nameAt(index);
+    Value written = writtenValue(kSectionObject, model().names.spelling(name), value);
+    open().edit().sections[section_].properties.set(model().names, name, std::move(written));
   }
+
+  const PropertyBag& properties() const override { return design().sections[section_].properties; }
 
  private:
   std::size_t section_;
 };
 
-class GroupLevel : public DesignObject {
+class GroupLevel : public PropertyOwner {
  public:
   GroupLevel(std::shared_ptr<Session> session, std::shared_ptr<OpenDesign> open, std::size_t level)
-      : DesignObject(std::move(session), std::move(open)), level_(level) {}
+      : PropertyOwner(std::move(session), std::move(open)), level_(level) {}
 
  protected:
   Reading tryRead(const MemberUse& use) override {
-    const PropertyBag& properties = design().groupLevels[level_];
-    if (const Recorded<Value>* recorded = properties.valueOf(use.key))
+    if (const Recorded<Value>* recorded = properties().valueOf(use.key))
       return readingOf(*recorded, use.name);
     if (use.member() == Member::kParent) return answered(makeDesign(sessionRef(), openRef()));
     if (use.member() != Member::kProperties) return failed(kErrNoSuchMember, use.name);
-    return answered(collectionOrItem(
-        propertyCollection(sessionRef(),
-                           std::shared_ptr<const PropertyBag>(openRef(), &properties)),
-        use));
+    return answered(propertiesOrItem(use));
   }
+
+  const PropertyBag& properties() const override { return design().groupLevels[level_]; }
 
  private:
   std::size_t level_;

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <utility>
 
+#include "access/macro/macro_module.h"
 #include "access/model/module_object.h"
 
 namespace tarrowin {
@@ -13,6 +14,8 @@ namespace {
 
 // acForm, acReport, acMacro, acModule; acOutputModule is acModule too.
 constexpr std::int32_t kForm = 2, kReport = 3, kMacro = 4, kModule = 5;
+// acSaveYes.
+constexpr std::int32_t kSaveYes = 1;
 // acCmdWindowHide, acCmdConvertMacrosToVisualBasic.
 constexpr std::int32_t kWindowHide = 2, kConvertMacros = 279;
 
@@ -93,28 +96,34 @@ class DoCmdObject : public NamedObject {
     if (std::find(open.begin(), open.end(), module) == open.end()) open.push_back(module);
   }
 
-  // What is not open is closed already. Changes are dropped.
+  // What is not open is closed already. A new form is kept when the save option says yes; changes
+  // to what the database has are dropped, whatever it says.
   void close(const MemberUse& use) {
-    const DatabaseModel& database = model();
+    Session& open = session();
     if (use.argument(0).isEmpty()) return;
     const std::int32_t type = toLong(use.argument(0));
     const std::string name = nameIn(use, 1);
-    if (type == kForm) closeDesign(database.forms, session().openForms, name);
-    if (type == kReport) closeDesign(database.reports, session().openReports, name);
+    const bool save = toLong(use.argument(2)) == kSaveYes;
+    if (type == kForm) closeDesign(open.openForms, name, save);
+    if (type == kReport) closeDesign(open.openReports, name, save);
     if (type == kModule) {
+      const DatabaseModel& database = open.model();
       const ModuleModel* module = database.modules.find(name, database.folding);
-      std::erase(session().openModules, module);
+      std::erase(open.openModules, module);
     }
   }
 
-  void closeDesign(const NamedList<DesignModel>& list,
-                   std::vector<std::shared_ptr<OpenDesign>>& open, const std::string& name) {
-    const DesignModel* design = list.find(name, model().folding);
-    const auto found = std::find_if(open.begin(), open.end(),
-                                    [design](const auto& one) { return one->source() == design; });
-    if (found == open.end()) return;
-    (*found)->close();
-    open.erase(found);
+  // A form that cannot be saved stays open.
+  void closeDesign(std::vector<std::shared_ptr<OpenDesign>>& open, const std::string& name,
+                   bool save) {
+    const std::size_t index =
+        positionOfName(open, name, model().folding,
+                       [](const auto& one) -> const std::string& { return one->source()->name; });
+    if (index >= open.size()) return;
+    const std::shared_ptr<OpenDesign> closed = open[index];
+    if (closed->isNew() && save) session().keepForm(closed->design());
+    closed->close();
+    std::erase(open, closed);
   }
 
   void select(const MemberUse& use) {
@@ -125,13 +134,18 @@ class DoCmdObject : public NamedObject {
         name.text() ? database.macros.find(*name.text(), database.folding) : nullptr;
   }
 
-  // Only the command that hides the database window is available, and has nothing to hide.
+  // The two commands that are available: one hides the database window, which is not there.
   void runCommand(std::int32_t command) {
     if (command == kWindowHide) return;
     const MacroModel* macro = session_ ? session_->selectedMacro : nullptr;
-    if (command == kConvertMacros && macro && macro->openError)
-      macro->openError->raise(macro->name);
-    raise(kErrCommandNotAvailable, std::to_string(command));
+    if (command != kConvertMacros || !macro)
+      raise(kErrCommandNotAvailable, std::to_string(command));
+    if (macro->openError) macro->openError->raise(macro->name);
+    ModuleModel module;
+    module.name = macroModuleName(macro->name);
+    module.text =
+        macro->module ? *macro->module : macroModuleText(macro->name, macro->actions.get());
+    session().keepModule(std::move(module));
   }
 
   // OutputTo acOutputModule, name, format, file: the module's text as it stands in the tree.

@@ -36,7 +36,7 @@ std::unique_ptr<DatabaseModel> HostState::open(const std::string& path) {
   if (known.model && known.path == file && known.fileState == stateOfFile(file))
     return std::move(known.model);
   known.model.reset();
-  return openDatabaseFile(file, options.codePage);
+  return openDatabaseFile(file, options.codePage, options.operations);
 }
 
 std::shared_ptr<const ApplicationErrors> HostState::selectedErrors() {
@@ -46,7 +46,8 @@ std::shared_ptr<const ApplicationErrors> HostState::selectedErrors() {
   if (!isRecording(file)) return none;
   try {
     std::string state = stateOfFile(file);
-    readAhead = {file, std::move(state), openDatabaseFile(file, options.codePage)};
+    readAhead = {file, std::move(state),
+                 openDatabaseFile(file, options.codePage, options.operations)};
     return readAhead.model->errors;
   } catch (const OpenFailure&) {
     return none;  // OpenCurrentDatabase will tell

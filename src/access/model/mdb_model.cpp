@@ -3,7 +3,11 @@
 
 #include <utility>
 
+#include "access/macro/macro_blob.h"
+#include "access/mdb/damage.h"
 #include "access/mdb/query_text.h"
+#include "access/mdb/text.h"
+#include "access/vba/object_tree.h"
 #include "access/vba/vba_project.h"
 
 namespace tarrowin {
@@ -19,13 +23,15 @@ struct Source {
   Source(mdb::Database&& opened, const CodePage& page)
       : database(std::move(opened)),
         codePage(page),
-        project([this] { return vba::VbaProject::open(database); }) {}
+        project([this] { return vba::VbaProject::open(database); }),
+        objects([this] { return vba::ObjectTree::open(database); }) {}
   Source(const Source&) = delete;
   Source& operator=(const Source&) = delete;
 
   mdb::Database database;
   CodePage codePage;
   Lazy<vba::VbaProject> project;
+  Lazy<vba::ObjectTree> objects;
 
   std::string text(std::string_view utf8) const { return codePage.fromUtf8(utf8); }
   Value value(Value utf8) const {
@@ -166,6 +172,33 @@ ModuleModel moduleModel(const SourceRef& source, const mdb::CatalogObject& objec
   return module;
 }
 
+// The page of texts that Access 97 wrote. A later file may hold such macros too, and only its
+// project tells in which page.
+CodePage ansiPage(const Source& source) {
+  if (source.database.isJet3()) return mdb::knownCodePage(source.database.codePage());
+  return mdb::knownCodePage(source.project.get().codePage());
+}
+
+std::vector<MacroAction> readActions(const Source& source, const std::string& name) {
+  return source.reading([&] {
+    return mdb::inContext("macro", name, [&] {
+      const vba::ObjectTree& objects = source.objects.get();
+      const vba::StoredObject* const stored = objects.find(vba::Container::kMacros, name);
+      if (stored == nullptr) mdb::raiseDamaged("it has no design");
+      const auto blob = objects.stream(*stored, "Blob");
+      return readMacroBlob(blob.value_or(Bytes()), ansiPage(source), source.codePage);
+    });
+  });
+}
+
+MacroModel macroModel(const SourceRef& source, const mdb::CatalogObject& object) {
+  MacroModel macro;
+  macro.name = source->text(object.name);
+  macro.actions = Lazy<std::vector<MacroAction>>(
+      [source, name = object.name] { return readActions(*source, name); });
+  return macro;
+}
+
 void addAccessObjects(const SourceRef& source, DatabaseModel& model) {
   for (const auto& object : source->database.forms()) {
     const std::string name = source->text(object.name);
@@ -176,11 +209,7 @@ void addAccessObjects(const SourceRef& source, DatabaseModel& model) {
     model.reports.add(
         designModel(source, object, cannotOpen(kErrRefused, "report", name), "Report_"));
   }
-  for (const auto& object : source->database.macros()) {
-    MacroModel macro;
-    macro.name = source->text(object.name);
-    model.macros.add(std::move(macro));
-  }
+  for (const auto& object : source->database.macros()) model.macros.add(macroModel(source, object));
   for (const auto& object : source->database.modules())
     model.modules.add(moduleModel(source, object));
 }

@@ -2,11 +2,12 @@
 // collections have: without regard to case, an exact match first.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 #include "access/model/case_folding.h"
 
@@ -22,8 +23,16 @@ class NamedList {
   auto begin() const { return items_.begin(); }
   auto end() const { return items_.end(); }
 
+  // The items that are there stay where they are.
   void add(T item) {
     items_.push_back(std::move(item));
+    byFoldedName_.clear();
+  }
+  // Puts the item in the place of the one that its name finds, or adds it.
+  void put(T item, const CaseFolding& folding) {
+    const std::size_t index = indexOf(item.name, folding);
+    if (index == kNotFound) return add(std::move(item));
+    items_[index] = std::move(item);
     byFoldedName_.clear();
   }
 
@@ -50,7 +59,7 @@ class NamedList {
       byFoldedName_.emplace(folding.fold(items_[i].name), i);
   }
 
-  std::vector<T> items_;
+  std::deque<T> items_;
   mutable std::unordered_multimap<std::string, std::size_t> byFoldedName_;
 };
 

@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "access/model/object_keeper.h"
+
 namespace tarrowin {
 
 namespace {
@@ -99,6 +101,17 @@ void Session::close() {
   openModules.clear();
   selectedMacro = nullptr;
   open_ = false;
+  if (model_->keeper) model_->keeper->release();
+}
+
+void Session::keepForm(const DesignModel& form) {
+  if (model_->keeper) model_->keeper->keepForm(form);
+  model_->forms.put(form, model_->folding);
+}
+
+void Session::keepModule(ModuleModel module) {
+  if (model_->keeper) model_->keeper->keepModule(module);
+  model_->modules.put(std::move(module), model_->folding);
 }
 
 RecordSourceAnalyzer& Session::analyzer() {

@@ -3,7 +3,9 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "access/model/control_index.h"
@@ -18,11 +20,22 @@ class OpenDesign {
  public:
   OpenDesign(const DesignModel& design, bool isReport)
       : source_(&design), design_(&design), isReport_(isReport) {}
+  // A form that the database does not have yet, made from the form of that name.
+  OpenDesign(std::unique_ptr<DesignModel> created, std::string templateName)
+      : source_(created.get()),
+        design_(created.get()),
+        copy_(std::move(created)),
+        isReport_(false),
+        isNew_(true),
+        templateName_(std::move(templateName)) {}
 
   // As stored, and as it looks now.
   const DesignModel* source() const { return source_; }
   const DesignModel& design() const { return *design_; }
   bool isReport() const { return isReport_; }
+  bool isNew() const { return isNew_; }
+  // Empty for what is not new.
+  const std::string& templateName() const { return templateName_; }
   // The copy for changes, which are to be made before anything else is asked.
   DesignModel& edit();
 
@@ -40,6 +53,8 @@ class OpenDesign {
   const DesignModel* design_;
   std::unique_ptr<DesignModel> copy_;
   bool isReport_;
+  bool isNew_ = false;
+  std::string templateName_;
   bool open_ = true;
   std::optional<ControlIndex> controlIndex_;
   std::unordered_map<std::size_t, std::shared_ptr<OpenDesign>> loaded_;
@@ -53,7 +68,13 @@ class Session {
   // The tree, which lives as long as an object of it is held: DAO's objects outlive the
   // application that gave them.
   const DatabaseModel& model() const { return *model_; }
+  // The tree for new objects that are not kept yet and for the names of their properties.
+  DatabaseModel& tree() { return *model_; }
   bool isOpen() const { return open_; }
+  // Adds the object to the database, in place of one of the same name, and to what is kept of it.
+  // Raises, and adds nothing, when that cannot be saved.
+  void keepForm(const DesignModel& form);
+  void keepModule(ModuleModel module);
   // Closes all forms, reports and modules; nothing can be opened any more.
   void close();
 

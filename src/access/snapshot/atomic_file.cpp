@@ -96,7 +96,8 @@ class Replacement {
  private:
   void check(int error, std::string_view step) const {
     if (error == 0) return;
-    throw AtomicWriteError(path_ + ": " + std::string(step) + " failed: " + std::strerror(error));
+    throw AtomicWriteError(path_ + ": " + std::string(step) + " failed: " + std::strerror(error),
+                           error);
   }
 
   void discard() {

@@ -10,13 +10,17 @@ namespace tarrowin {
 // The file was not written; what stood there before still stands.
 class AtomicWriteError : public std::exception {
  public:
-  explicit AtomicWriteError(std::string message) : message_(std::move(message)) {}
+  explicit AtomicWriteError(std::string message, int code = 0)
+      : message_(std::move(message)), code_(code) {}
   // UTF-8: the path, what failed and why.
   const std::string& message() const { return message_; }
+  // The errno value of what failed.
+  int code() const { return code_; }
   const char* what() const noexcept override { return message_.c_str(); }
 
  private:
   std::string message_;
+  int code_;
 };
 
 // The operations on the disk that a replacement takes, so that a test can let each of them fail.

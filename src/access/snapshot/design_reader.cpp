@@ -91,7 +91,7 @@ DesignModel readDesign(JsonValue entry, const SnapshotValues& values, const Case
     for (const JsonValue level : *levels) design.groupLevels.push_back(values.properties(level));
   }
   design.module = values.optionalTextIn(entry, "module");
-  design.countOfLines = values.optionalNumberIn(entry, "countOfLines");
+  design.countOfLines = values.countIn(entry, "countOfLines");
   design.openError = values.optionalErrorIn(entry, "openError");
   design.exportError = values.optionalErrorIn(entry, "exportError");
   return design;

@@ -59,6 +59,14 @@ class SnapshotReader {
     if (const auto entry = root_.member("templates")) readTemplates(*entry);
   }
 
+  void readNewObjects() {
+    checkVersion();
+    const CaseFolding& folding = database_.folding;
+    forEach("forms",
+            [&](JsonValue entry) { database_.forms.put(readDesignEntry(entry), folding); });
+    forEach("modules", [&](JsonValue entry) { database_.modules.put(readModule(entry), folding); });
+  }
+
  private:
   void checkVersion() {
     SnapshotValues::requireObject(root_);
@@ -225,7 +233,9 @@ class SnapshotReader {
     macro.openError = values_.optionalErrorIn(entry, "openError");
     if (const auto actions = entry.member("actions")) {
       SnapshotValues::requireList(*actions);
-      for (const JsonValue action : *actions) macro.actions.push_back(readAction(action));
+      std::vector<MacroAction> rows;
+      for (const JsonValue action : *actions) rows.push_back(readAction(action));
+      macro.actions = std::move(rows);
     }
     return macro;
   }
@@ -250,7 +260,7 @@ class SnapshotReader {
     module.name = values_.requiredTextIn(entry, "name");
     module.type = values_.optionalNumberIn(entry, "type").value_or(0);
     module.text = values_.textIn(entry, "text");
-    module.countOfLines = values_.optionalNumberIn(entry, "countOfLines");
+    module.countOfLines = values_.countIn(entry, "countOfLines");
     module.openError = values_.optionalErrorIn(entry, "openError");
     module.exportError = values_.optionalErrorIn(entry, "exportError");
     return module;
@@ -284,6 +294,11 @@ std::unique_ptr<DatabaseModel> readSnapshot(std::string_view utf8, const CodePag
   database->recording = true;
   SnapshotReader(tree.root(), *database).read();
   return database;
+}
+
+void readNewObjects(std::string_view utf8, DatabaseModel& database) {
+  const JsonTree tree = JsonTree::parse(utf8);
+  SnapshotReader(tree.root(), database).readNewObjects();
 }
 
 }  // namespace tarrowin

@@ -20,4 +20,8 @@ class NewerSnapshot : public SnapshotError {
 // with the place of what is wrong; unknown keys are ignored.
 std::unique_ptr<DatabaseModel> readSnapshot(std::string_view utf8, const CodePage& codePage);
 
+// Puts the forms and modules of that recording into the tree, in place of those of the same name.
+// Throws SnapshotError likewise.
+void readNewObjects(std::string_view utf8, DatabaseModel& database);
+
 }  // namespace tarrowin

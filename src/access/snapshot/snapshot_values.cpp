@@ -56,6 +56,16 @@ std::optional<std::int32_t> SnapshotValues::optionalNumberIn(JsonValue object,
   return found ? std::optional(number(*found)) : std::nullopt;
 }
 
+Lazy<std::optional<std::int32_t>> SnapshotValues::countIn(JsonValue object,
+                                                          std::string_view key) const {
+  using Count = std::optional<std::int32_t>;
+  const auto found = object.member(key);
+  if (!found) return Count();
+  if (!isErrorObject(*found)) return Count(number(*found));
+  return Lazy<Count>(
+      [error = error(*found), name = std::string(key)]() -> Count { error.raise(name); });
+}
+
 std::string SnapshotValues::requiredTextIn(JsonValue object, std::string_view key) const {
   const auto found = object.member(key);
   if (!found) object.failExpected("a text under \"" + std::string(key) + "\"");

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "access/model/lazy.h"
 #include "access/model/property_bag.h"
 #include "access/model/recorded.h"
 #include "access/snapshot/json_tree.h"
@@ -25,6 +26,8 @@ class SnapshotValues {
   std::string textIn(JsonValue object, std::string_view key) const;
   std::optional<std::string> optionalTextIn(JsonValue object, std::string_view key) const;
   std::optional<std::int32_t> optionalNumberIn(JsonValue object, std::string_view key) const;
+  // A number that may be recorded as the error that reading it raises.
+  Lazy<std::optional<std::int32_t>> countIn(JsonValue object, std::string_view key) const;
   std::string requiredTextIn(JsonValue object, std::string_view key) const;
   std::optional<RecordedError> optionalErrorIn(JsonValue object, std::string_view key) const;
 
