@@ -113,6 +113,9 @@ void CommandLine::addConvert() {
   command->add_flag("--data-repeater", convert_.dataRepeater,
                     "Convert a continuous form through a DataRepeater: a user control with a "
                     "project of its own, and the form that hosts it");
+  command->add_flag("--single-forms", convert_.singleForms,
+                    "Make a form with page breaks into a new form a page instead of one new form "
+                    "with a tab control");
   command
       ->add_option("--startup-form", convert_.startupForm,
                    "The form that projects start with; that of the database unless given")
@@ -125,6 +128,10 @@ void CommandLine::addConvert() {
       "queries, forms, reports, macros, modules, project. Questions of the program are answered\n"
       "with yes, only the one whether to stop with no. More than 2820 queries are converted in\n"
       "several batches, unless they go into a single file. A \"--\" ends the names.\n"
+      "\n"
+      "Macros become modules of the database, and a form with page breaks becomes new forms in\n"
+      "it, which a later run converts. A snapshot is changed; beside an .mdb the new objects are\n"
+      "kept in a file of their own, which is read again with it.\n"
       "\n"
       "Projects name system files by their paths on the machine that will load them. These are\n"
       "in C:\\WINDOWS\\system32\\, C:\\Program Files\\Common Files\\Designer\\ and C:\\Program\n"

@@ -52,6 +52,7 @@ class Conversion {
     window.txtCurDir = directoryInPage_;
     window.chkMultiSel = options_.singleFile ? 1 : 0;
     window.optContinuous = options_.dataRepeater ? 1 : 0;
+    window.optMultiPage = options_.singleForms ? 1 : 0;
     if (options_.startupForm) window.cboFormNames = codePage_.fromUtf8(*options_.startupForm);
     for (const ObjectKind& kind : kObjectKinds) {
       if (isWanted(kind)) convert(kind);

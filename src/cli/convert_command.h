@@ -28,6 +28,7 @@ struct ConvertOptions {
   bool all = false;                                   // every kind that has objects
   bool singleFile = false;                            // chkMultiSel
   bool dataRepeater = false;                          // the second choice of optContinuous
+  bool singleForms = false;                           // the second choice of optMultiPage
   std::optional<std::string> startupForm;             // cboFormNames, UTF-8
   bool json = false;
   int codePage = CodePage::kWestern;

@@ -81,7 +81,8 @@ void BatchDriver::convert() {
 
 void BatchDriver::finish(double startTime) {
   std::string text = summary();
-  if (convertedCount_ > 0) text += elapsedTimeSentence(startTime, main_.Time());
+  if (isTimed()) text += elapsedTimeSentence(startTime, main_.Time());
+  beforeClosingBox();
   MainWindow& window = main_.window;
   window.mousePointer = kDefaultPointer;
   main_.messageBox(message_style::kInformation, text);
@@ -153,7 +154,7 @@ void BatchDriver::beginItem(std::size_t i) {
   errorNumber_ = 0;
   window.ProgressBar1[indexOf(member_.list)].value = static_cast<int>(i);
   currentName_ = items()[i - 1].text;
-  window.lblPct.caption = std::string(member_.labelPrefix) + selectedName_;
+  window.lblPct.caption = progressText();
   const double percent = static_cast<double>(i) / static_cast<double>(items().size()) * 100;
   window.lblPercent.caption = formatWhole(percent) + "%";
 }

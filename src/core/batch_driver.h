@@ -66,6 +66,14 @@ class BatchDriver {
   virtual void closingStep() {}
   // The text of the closing box, without the elapsed time.
   virtual std::string summary() = 0;
+  // Whether the elapsed time follows it.
+  virtual bool isTimed() const { return convertedCount_ > 0; }
+  // What is done between the text and its box.
+  virtual void beforeClosingBox() {}
+  // What lblPct shows at the top of a pass; the selected item lags one behind.
+  virtual std::string progressText() const {
+    return std::string(member_.labelPrefix) + selectedName_;
+  }
 
   // Runs one statement under the driver's error table; the number of the last error of the object
   // in hand stays in errorNumber_.

@@ -5,12 +5,16 @@
 
 #include "codeconv/form_code.h"
 #include "core/batch_driver.h"
+#include "core/large_forms.h"
 #include "core/output_naming.h"
+#include "core/printer_flags.h"
 #include "forms/data_controls.h"
 #include "forms/data_repeater.h"
 #include "forms/form_writer.h"
 #include "forms/user_control.h"
 #include "multipage/multi_page_form.h"
+#include "multipage/new_form.h"
+#include "multipage/tab_form.h"
 #include "project/activex_project.h"
 #include "project/vb_project.h"
 #include "shared/path_procedures.h"
@@ -27,12 +31,8 @@ constexpr std::int32_t kErrNoPermission = 2601, kErrNotAvailable = 2046;
 constexpr std::int32_t kContinuousForms = 1;
 // The choices of optContinuous.
 constexpr int kDataGrid = 0;
-// More control names than this on a form are more than Visual Basic takes.
-constexpr std::int32_t kMostControls = 254;
-
-constexpr std::string_view kTooManyControls =
-    "This exceeds the Visual Basic limit of 254 control names for a Form. Too many controls on a "
-    "Form may cause Visual Basic to crash. Refer to the online Help for more information.";
+// The first choice of optMultiPage: one new form with a tab control.
+constexpr int kTabForm = 0;
 
 std::string paragraph(const std::string& text) { return text + "\r\n\r\n"; }
 
@@ -45,25 +45,25 @@ class FormBatch : public BatchDriver {
   void resetLists() override;
   void convertSelection() override;
   std::string summary() override;
+  bool isTimed() const override { return convertedCount_ > 0 || multiPageCount_ > 0; }
 
  private:
   void convertForm();
   bool openForm();
-  void clearFlags();
   bool isMultiPage();
-  void tellMultiPage();
+  void restructure();
   void convertContinuousForm();
   void writeForm();
   void writeDataControl();
-  void noteControls();
   void writeProjects();
   std::string oneForm() const;
   std::string severalForms() const;
   std::string projectSentence() const;
-  std::string bigFormsNote() const;
+  std::string multiPageSentence() const;
 
   ConversionState& state_;
   int continuousCount_ = 0;  // forms that became a user control
+  int multiPageCount_ = 0;   // forms that were restructured inside the database
   std::string project_;      // the project that was written; empty for none
 };
 
@@ -83,20 +83,13 @@ void FormBatch::convertSelection() {
   if (convertedCount_ > 0) writeProjects();
 }
 
-void FormBatch::clearFlags() {
-  state_.mblnUserControl = false;
-  state_.blnHasPictures = false;
-  state_.blnFillCombos = false;
-  state_.blnFillLists = false;
-}
-
 void FormBatch::convertForm() {
-  clearFlags();
+  clearPrinterFlags(state_);
   state_.mblnDataRepeater = false;
   selectedName_ = currentName_;
   main_.user.refresh(main_.window);
   if (!openForm()) return;
-  if (isMultiPage()) return tellMultiPage();
+  if (isMultiPage()) return restructure();
   bool continuous = false;
   statement([&] { continuous = equals(state_.frmCurr.get("DefaultView"), kContinuousForms); });
   if (continuous && main_.window.optContinuous != kDataGrid) convertContinuousForm();
@@ -116,16 +109,17 @@ bool FormBatch::isMultiPage() {
   return multiPage;
 }
 
-// This version cannot restructure the form inside the database; it is not converted.
-void FormBatch::tellMultiPage() {
-  main_.messageBox(message_style::kInformation,
-                   "Form " + selectedName_ +
-                       " is a multi-page Form. This version of Tarrowin cannot convert multi-page "
-                       "Forms yet.");
-  statement([&] {
-    state_.gappAccess.doCmd().Close(access_constants::acForm, selectedName_,
-                                    access_constants::acSaveNo);
-  });
+bool isTabForm(const MainObject& main) { return main.window.optMultiPage == kTabForm; }
+
+// New forms take its place inside the database, which a later conversion finds there.
+void FormBatch::restructure() {
+  const bool onlyOne = selectedCount_ == 1;
+  if (isTabForm(main_)) {
+    CreateNewFormInTab(main_, selectedName_, onlyOne);
+  } else {
+    CreateNewForm(main_, selectedName_, onlyOne);
+  }
+  ++multiPageCount_;
 }
 
 // The user control that a DataRepeater repeats; the form that hosts it follows as any form.
@@ -144,7 +138,7 @@ void FormBatch::convertContinuousForm() {
 void FormBatch::writeForm() {
   state_.astrComboSources.reset();
   state_.astrListSources.reset();
-  clearFlags();
+  clearPrinterFlags(state_);
   SetupFormNames(main_, selectedName_);
   GetAccFormProps(main_);
   writeDataControl();
@@ -156,7 +150,7 @@ void FormBatch::writeForm() {
                                     access_constants::acSaveNo);
   });
   ++convertedCount_;
-  noteControls();
+  noteTooManyControls(state_, selectedName_);
   state_.mstrVbForms.append(state_.gstrFormFile);
 }
 
@@ -173,11 +167,6 @@ void FormBatch::writeDataControl() {
   if (bound) GetVbDataCtlProps(main_);
 }
 
-void FormBatch::noteControls() {
-  if (state_.intNumControls <= kMostControls) return;
-  state_.mstrBigForms.append(selectedName_ + " has" + Str(state_.intNumControls) + " controls.");
-}
-
 void FormBatch::writeProjects() {
   const bool one = convertedCount_ == 1;
   if (one && !state_.gblnProjectNeeded && continuousCount_ != 1) return;
@@ -187,10 +176,27 @@ void FormBatch::writeProjects() {
 }
 
 std::string FormBatch::summary() {
-  if (convertedCount_ == 0) {
+  if (convertedCount_ == 0 && multiPageCount_ == 0)
     return paragraph("Unable to convert Access Forms to Visual Basic Forms.");
+  std::string text;
+  if (convertedCount_ > 0) text = convertedCount_ == 1 ? oneForm() : severalForms();
+  if (multiPageCount_ > 0) text += multiPageSentence();
+  return text;
+}
+
+std::string FormBatch::multiPageSentence() const {
+  const bool tab = isTabForm(main_), one = multiPageCount_ == 1;
+  std::string text;
+  if (!one) {
+    text = Str(multiPageCount_) + " Multi-page Forms were converted to " +
+           (tab ? "Tab Form" : "single Forms") + ".";
+  } else if (tab) {
+    text = "One Multi-page Form was converted to a Tab Form.";
+  } else {
+    text = "One Multi-page Form was converted to single Forms.";
   }
-  return convertedCount_ == 1 ? oneForm() : severalForms();
+  return paragraph(text + "\r\nTo convert " + (one && tab ? "this Form" : "these Forms") +
+                   " to Visual Basic, close and then re-open the database again.");
 }
 
 std::string FormBatch::projectSentence() const {
@@ -211,9 +217,10 @@ std::string FormBatch::oneForm() const {
     }
     text += projectSentence();
   }
-  if (state_.intNumControls > kMostControls) {
+  if (hasTooManyControls(state_)) {
     text += paragraph("NOTE: There are" + Str(state_.intNumControls) +
-                      " controls in the current Form. " + std::string(kTooManyControls));
+                      " controls in the current Form. " + std::string(kControlLimit) +
+                      std::string(kControlWarning));
   }
   return text;
 }
@@ -226,18 +233,7 @@ std::string FormBatch::severalForms() const {
         "One or more Forms is a Continuous Form. A Visual Basic project Group is automatically "
         "created.");
   }
-  text += projectSentence();
-  if (state_.mstrBigForms.count() > 0) text += bigFormsNote();
-  return text;
-}
-
-std::string FormBatch::bigFormsNote() const {
-  const std::int32_t count = state_.mstrBigForms.count();
-  std::string text = paragraph(count == 1 ? "NOTE: The following Form contains too many controls..."
-                                          : "NOTE: The following" + Str(count) +
-                                                " Forms contain too many controls...");
-  for (const std::string& note : state_.mstrBigForms) text += "Form " + note + "\r\n";
-  return text + "\r\n" + paragraph(std::string(kTooManyControls));
+  return text + projectSentence() + largeFormsNote(state_);
 }
 
 }  // namespace

@@ -6,9 +6,10 @@
 #include "core/database_opening.h"
 #include "core/form_batch.h"
 #include "core/library_paths.h"
+#include "core/macro_batch.h"
 #include "core/main_object.h"
 #include "core/module_batch.h"
-#include "core/pending_batch.h"
+#include "core/object_batch.h"
 #include "core/query_batch.h"
 #include "core/report_batch.h"
 

@@ -64,6 +64,30 @@ TEST_F(ConvertProcess, ConvertAContinuousFormThroughADataRepeater) {
             (Names{"List.frm", "List.vbg", "List.vbp", "ctlList.ctl", "ctlList.vbp"}));
 }
 
+TEST_F(ConvertProcess, ConvertAFormOfSeveralPagesInsideItsDatabase) {
+  const auto newForms = [this](const std::string& option) {
+    Json database = emptyDatabase();
+    const Json controls = Json::array(
+        {{{"name", "txtA"}, {"type", 109}, {"properties", {{"Section", 0}, {"Top", 100}}}},
+         {{"name", "brk"}, {"type", 118}, {"properties", {{"Section", 0}, {"Top", 500}}}}});
+    database["forms"] = Json::array(
+        {{{"name", "Wide"}, {"properties", {{"DefaultView", 0}}}, {"controls", controls}}});
+    writeFile(path("forms.access.json"), database.dump());
+    Names arguments = {"convert", "forms.access.json", "--to", "out", "--forms"};
+    if (!option.empty()) arguments.push_back(option);
+    const ProgramResult result = run(arguments);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.err.find("close and then re-open the database again."), std::string::npos)
+        << result.err;
+    const Json changed = Json::parse(fileContent(path("forms.access.json")));
+    std::string names;
+    for (const Json& form : changed["forms"]) names += form["name"].get<std::string>() + ";";
+    return names;
+  };
+  EXPECT_EQ(newForms(""), "Wide;Form1;");
+  EXPECT_EQ(newForms("--single-forms"), "Wide;Form1;Form2;");
+}
+
 TEST_F(ConvertProcess, ConvertWithAStartupForm) {
   Json database = emptyDatabase();
   for (const char* name : {"A", "B"}) {

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "cli/expected_database.h"
 #include "cli/run_program.h"
 #include "support/test_session.h"
 
@@ -36,8 +37,12 @@ std::vector<std::string> caseNames() {
 
 // Belongs to the case, not to the session.
 bool isExpectation(const fs::path& name) {
-  return name == "expected" || name == "expected_transcript.jsonl" || name == "README.md";
+  return name == "expected" || name == "expected_transcript.jsonl" ||
+         name == "expected_database.json" || name == "README.md";
 }
+
+// The recording that a session may change, where the case says what it must then hold.
+constexpr std::string_view kChangedDatabase = "database.access.json";
 
 // Files below the folder with their content; directories with an empty one and "/" behind the name.
 std::map<std::string, std::string> tree(const fs::path& folder) {
@@ -137,11 +142,19 @@ TEST_P(Golden, LeavesWhatIsExpected) {
   writeFile(transcripts.path() / "actual", actual);
   EXPECT_TRUE(expected == actual) << unifiedDiff("expected", "actual", transcripts.path());
 
-  // Nothing but the output directory changed.
+  const fs::path database = golden() / "expected_database.json";
+  const bool changes = fs::exists(database);
+  if (changes) {
+    expectDatabase(nlohmann::json::parse(fileContent(database)),
+                   nlohmann::json::parse(fileContent(work() / kChangedDatabase)));
+  }
+  // Nothing but the output directory and that database changed.
   std::map<std::string, std::string> after = tree(work());
-  const auto isOutput = [](const auto& entry) { return entry.first.starts_with("out/"); };
-  std::erase_if(untouched, isOutput);
-  std::erase_if(after, isOutput);
+  const auto mayChange = [changes](const auto& entry) {
+    return entry.first.starts_with("out/") || (changes && entry.first == kChangedDatabase);
+  };
+  std::erase_if(untouched, mayChange);
+  std::erase_if(after, mayChange);
   EXPECT_TRUE(untouched == after) << "the session changed files beside its output directory";
 }
 

@@ -1,0 +1,5 @@
+Option Explicit
+Function Nights(dtmFrom, dtmTo)
+    Nights = dtmTo - dtmFrom
+End Function
+
