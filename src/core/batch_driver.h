@@ -32,8 +32,6 @@ struct BatchErrorRow {
 struct BatchMember {
   ObjectList list;
   std::string_view procedure;    // the name in its error box
-  std::string_view word;         // "Form"
-  std::string_view words;        // "Forms"
   std::string_view refusedWord;  // the word in the message about a missing permission
   std::string_view nothingSelected;
   std::string_view emptyList;

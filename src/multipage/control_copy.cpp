@@ -38,10 +38,10 @@ void copyProperties(Restructuring& procedure, const SourceControl& source,
       procedure.propertyName = property.text("Name");
       same = procedure.propertyName == source.astrPropNames[j];
     });
-    if (!same || isExcluded(procedure.propertyName) || !source.avarPropValues[j]) continue;
-    const bool moved = newTop && procedure.propertyName == "Top";
-    procedure.statement(
-        [&] { property.put("Value", moved ? Value(*newTop) : *source.avarPropValues[j]); });
+    if (!same || isExcluded(procedure.propertyName)) continue;
+    std::optional<Value> value = source.avarPropValues[j];
+    if (newTop && procedure.propertyName == "Top") value = Value(*newTop);
+    if (value) procedure.statement([&] { property.put("Value", *value); });
   }
 }
 

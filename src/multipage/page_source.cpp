@@ -1,9 +1,11 @@
 // Opening, page bounds, finishing and saving.
 #include "multipage/page_source.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "core/design_sections.h"
 #include "core/loaded_forms.h"
-#include "shared/value_tests.h"
 #include "shared/vb_text.h"
 
 namespace tarrowin {
@@ -38,23 +40,10 @@ void PageSource::reopen(Procedure& procedure) {
 
 void PageSource::readPageTops(Procedure& procedure) {
   aintPageTops_.assign(1, 0);
-  Collection<LateBound> controls;
-  std::int32_t count = 0;
-  procedure.statement([&] {
-    controls = Collection<LateBound>(toObject(form_.get("Controls")));
-    count = controls.Count();
-  });
-  for (std::int32_t i = 0; i < count; ++i) {
-    LateBound control;
-    bool isBreak = false;
-    procedure.statement([&] {
-      control = controls(i);
-      isBreak = equals(control.get("ControlType"), access_constants::acPageBreak);
-    });
-    if (!isBreak) continue;
-    procedure.statement([&] { aintPageTops_.back() = toInteger(control.get("Top")); });
+  walk(procedure, true, [&](const LateBound& pageBreak) {
+    procedure.statement([&] { aintPageTops_.back() = toInteger(pageBreak.get("Top")); });
     aintPageTops_.push_back(0);
-  }
+  });
 }
 
 bool PageSource::isOnPage(std::size_t page, std::int32_t top) const {
@@ -65,7 +54,9 @@ bool PageSource::isOnPage(std::size_t page, std::int32_t top) const {
 
 std::int32_t PageSource::topOnPage(std::size_t page, std::int32_t top) const {
   const std::int32_t bound = aintPageTops_[page == 0 ? 0 : page - 1];
-  return top < bound ? top : top - bound;
+  if (top < bound) return top;
+  constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
+  return static_cast<std::int32_t>(std::min(std::int64_t{top} - bound, kMost));
 }
 
 void finishNewForm(MainObject& main, Procedure& procedure, const LateBound& newForm) {

@@ -9,6 +9,7 @@
 
 #include "core/main_object.h"
 #include "core/statement.h"
+#include "shared/value_tests.h"
 
 namespace tarrowin {
 
@@ -33,6 +34,15 @@ class PageSource {
   // Hands over the controls one by one, without the page breaks.
   template <class Visit>
   void forEachControl(Procedure& procedure, Visit visit) const {
+    walk(procedure, false, visit);
+  }
+
+ private:
+  void readPageTops(Procedure& procedure);
+
+  // The page breaks, or all other controls; one of unknown type is neither.
+  template <class Visit>
+  void walk(Procedure& procedure, bool breaks, Visit visit) const {
     Collection<LateBound> controls;
     std::int32_t count = 0;
     procedure.statement([&] {
@@ -41,17 +51,15 @@ class PageSource {
     });
     for (std::int32_t i = 0; i < count; ++i) {
       LateBound control;
-      bool isCopied = false;
+      bool isWanted = false;
       procedure.statement([&] {
         control = controls(i);
-        isCopied = control.number("ControlType") != access_constants::acPageBreak;
+        const Value type = control.get("ControlType");
+        isWanted = !type.isNull() && equals(type, access_constants::acPageBreak) == breaks;
       });
-      if (isCopied) visit(control);
+      if (isWanted) visit(control);
     }
   }
-
- private:
-  void readPageTops(Procedure& procedure);
 
   MainObject& main_;
   std::string name_;

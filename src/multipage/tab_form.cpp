@@ -6,7 +6,7 @@
 #include "forms/control_types.h"
 #include "multipage/control_copy.h"
 #include "multipage/page_source.h"
-#include "shared/vb_text.h"
+#include "shared/vb_number.h"
 
 namespace tarrowin {
 
@@ -66,7 +66,8 @@ void TabBuilder::makeForm() {
 
 void TabBuilder::copy(std::size_t page, const LateBound& control) {
   SourceControl source = readSourceControl(procedure_, control);
-  std::int32_t top = source.top ? *source.top + kTabStrip : 0;
+  std::int32_t top = 0;
+  if (source.top) procedure_.statement([&] { top = addInt32(*source.top, kTabStrip); });
   if (!source_.isOnPage(page, top)) return;
   const bool inDetail = source.section == kDetail;
   if (inDetail) top = source_.topOnPage(page, top);

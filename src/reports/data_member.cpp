@@ -3,6 +3,7 @@
 #include "reports/data_member.h"
 
 #include "query/sql_analysis.h"
+#include "reports/report_source.h"
 #include "reports/report_values.h"
 #include "shared/text_procedures.h"
 #include "shared/vb_text.h"
@@ -59,10 +60,12 @@ class SourceSearch {
   }
 
   void open() {
-    if (kind_ == SourceKind::kQuery) return openQuery();
+    if (kind_ == SourceKind::kQuery) return openNamedQuery();
     const std::int32_t error = openSource();
     if (kind_ == SourceKind::kSqlText && error == kErrTooFewParameters) openShortened();
   }
+
+  void openNamedQuery() { recordset_ = openQuery(main_, procedure_, state_.strRecordSource); }
 
   std::int32_t openSource() {
     return run([&] {
@@ -71,20 +74,12 @@ class SourceSearch {
     });
   }
 
-  void openQuery() {
-    QueryDef query;
-    if (run([&] { query = state_.mdbCurr.QueryDefs()(state_.strRecordSource); }) != 0) return;
-    GetQueryParams(main_, query);
-    run([&] { recordset_ = query.OpenRecordset(); });
-    run([&] { query.Close(); });
-  }
-
   void openShortened() {
     std::string sql = ExtractSQL(main_, state_.strRecordSource);
     if (sql.starts_with("PARAMETERS")) {
       state_.strRecordSource = ExtractSQLParams(main_, sql);
       kind_ = SourceKind::kQuery;
-      return openQuery();
+      return openNamedQuery();
     }
     if (!refersToForms(state_.strRecordSource)) return;
     for (const std::string_view where : {"WHERE ", "Where ", "where "}) {

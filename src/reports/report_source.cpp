@@ -30,6 +30,8 @@ void classifyQuery(MainObject& main, ReportProcedure& procedure, ReportSource& s
   }
 }
 
+}  // namespace
+
 Recordset openQuery(MainObject& main, ReportProcedure& procedure, const std::string& name) {
   Recordset recordset;
   QueryDef query;
@@ -40,8 +42,6 @@ Recordset openQuery(MainObject& main, ReportProcedure& procedure, const std::str
   procedure.statement([&] { query.Close(); });
   return recordset;
 }
-
-}  // namespace
 
 ReportSource classifyReportSource(MainObject& main, ReportProcedure& procedure) {
   ReportSource source;

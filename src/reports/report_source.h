@@ -26,6 +26,9 @@ ReportSource classifyReportSource(MainObject& main, ReportProcedure& procedure);
 // tables, which are then in gstrSourceTables. Sets blnJoinSQL.
 std::int32_t countRecordsets(MainObject& main, const ReportSource& source);
 
+// A recordset on the query of that name, its parameters filled; no object when it cannot be had.
+Recordset openQuery(MainObject& main, ReportProcedure& procedure, const std::string& name);
+
 // A recordset on strSourceName; no object when it cannot be had.
 Recordset openReportSource(MainObject& main, ReportProcedure& procedure,
                            const ReportSource& source);

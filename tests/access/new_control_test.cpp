@@ -81,6 +81,22 @@ TEST_F(NewControlTest, TabControlOfANewFormHasPage1AndPage2) {
   EXPECT_EQ(parentOf(item(pages, 1)), "TabCtl0");
 }
 
+TEST_F(NewControlTest, PagesHaveTheirNamesWhateverTheTemplateOfAPageIsCalled) {
+  for (const std::string name : {"General", "Page1", "Page7"}) {
+    openNewForm(R"({"snapshot": 1, "forms": [{"name": "frmMain"}],
+                    "templates": {"controls": {"124": {"Name": ")" +
+                name + R"("}}}})");
+    create(123);
+    EXPECT_EQ(names(), "TabCtl0 Page1 Page2 ") << name;
+  }
+}
+
+TEST_F(NewControlTest, AParentThatBearsTheFormsNameIsTheForm) {
+  create(107);
+  control("Frame0")->put("Name", "frmMain");
+  EXPECT_EQ(parentOf(create(105, 0, "frmMain")), "Form1");
+}
+
 TEST_F(NewControlTest, DefaultsComeInTheOrderOfTheTypeLibrary) {
   const ObjectRef box = create(109);
   const ObjectRef properties = child(box, "Properties");

@@ -170,17 +170,21 @@ class ControlMaker {
   // controls on, that gives a free name.
   std::string newName(std::int32_t type, const PropertyBag& properties) const {
     std::string stem;
+    std::size_t number = controls().size();
     for (const NameStem& row : kNameStems)
       if (row.type == type) stem = row.stem;
-    // Whoever makes a tab control counts on Page1 and Page2.
-    const Recorded<Value>* recorded =
-        type == kPage ? nullptr : properties.valueOf(keyOf(Member::kName));
+    const Recorded<Value>* recorded = properties.valueOf(keyOf(Member::kName));
     const Value* value = recorded ? recorded->ifRead() : nullptr;
     if (const std::string* text = value ? value->text() : nullptr; text && !text->empty()) {
-      if (isFree(*text)) return *text;
-      stem = text->substr(0, text->find_last_not_of("0123456789") + 1);
+      // Whoever makes a tab control counts on Page1 and Page2, whatever the template is called.
+      if (type == kPage) {
+        number = 1;
+      } else {
+        if (isFree(*text)) return *text;
+        stem = text->substr(0, text->find_last_not_of("0123456789") + 1);
+      }
     }
-    for (std::size_t number = controls().size();; ++number)
+    for (;; ++number)
       if (std::string name = stem + std::to_string(number); isFree(name)) return name;
   }
 
