@@ -50,6 +50,8 @@ const Case kCases[] = {
     {"GoToRecord", {"2", "frmA", "4", "7"}, R"(DoCmd.GoToRecord acDataForm, "frmA", acGoTo, 7)"},
     {"Hourglass", {"-1"}, "DoCmd.Hourglass True"},
     {"Hourglass", {"0"}, "DoCmd.Hourglass False"},
+    {"SetWarnings", {"Yes"}, "DoCmd.SetWarnings True"},
+    {"SetWarnings", {"no"}, "DoCmd.SetWarnings False"},
     {"Maximize", {}, "DoCmd.Maximize"},
     {"Minimize", {}, "DoCmd.Minimize"},
     {"MoveSize", {"", "", "5000", "3000"}, "DoCmd.MoveSize , , 5000, 3000"},

@@ -20,7 +20,9 @@ namespace tarrowin {
 
 namespace {
 
-constexpr std::string_view kYes = "-1", kNo = "0";
+// As designs hold it, and as the macro's sheet shows it.
+bool isYes(std::string_view text) { return text == "-1" || UCase(text) == "YES"; }
+bool isNo(std::string_view text) { return text == "0" || UCase(text) == "NO"; }
 
 // The action's name and arguments, as far as they are filled in from position `from` on.
 std::string told(const MacroAction& row, std::size_t from) {
@@ -74,8 +76,8 @@ class StatementWriter {
       case ArgumentKind::kChoice:
         return chosen(argument.choices, text);
       case ArgumentKind::kYesNo:
-        if (text == kYes) return "True";
-        if (text == kNo) return "False";
+        if (isYes(text)) return "True";
+        if (isNo(text)) return "False";
         return number(text);
       case ArgumentKind::kNumber:
         return number(text);
@@ -130,7 +132,7 @@ class StatementWriter {
   void writeLine(std::string_view pattern) {
     constexpr std::string_view kIfSecondIsYes = "{2?}";
     if (pattern.starts_with(kIfSecondIsYes)) {
-      if (given(1) != kYes) return;
+      if (!isYes(given(1))) return;
       pattern.remove_prefix(kIfSecondIsYes.size());
     }
     std::string line;
