@@ -177,7 +177,7 @@ class ControlMaker {
     const Value* value = recorded ? recorded->ifRead() : nullptr;
     if (const std::string* text = value ? value->text() : nullptr; text && !text->empty()) {
       // Whoever makes a tab control counts on Page1 and Page2, whatever the template is called.
-      if (type == kPage) {
+      if (type == kPage && *text != "Page1") {
         number = 1;
       } else {
         if (isFree(*text)) return *text;
