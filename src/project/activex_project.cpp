@@ -5,8 +5,8 @@
 
 #include "core/main_object.h"
 #include "project/project_writer.h"
-#include "shared/text_procedures.h"
 #include "shared/path_procedures.h"
+#include "shared/text_procedures.h"
 
 namespace tarrowin {
 

@@ -130,7 +130,8 @@ TEST(SnapshotReaderTest, MacrosAndTemplates) {
     "macros":[{"name":"M","actions":[{"macroName":"","condition":"x","action":"OpenForm",
                "arguments":["frmMain","0"],"comment":"c"}]}],
     "templates":{"controls":{"123":{"Name":"TabCtl0","Top":0}}}})");
-  EXPECT_EQ(model->macros[0].actions.get()[0].arguments, (std::vector<std::string>{"frmMain", "0"}));
+  EXPECT_EQ(model->macros[0].actions.get()[0].arguments,
+            (std::vector<std::string>{"frmMain", "0"}));
   EXPECT_EQ(model->controlTemplates.at(123).size(), 2u);
 }
 

@@ -1,15 +1,17 @@
 // Which references the user is told to select.
+#include "core/access_references.h"
+
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "core/access_references.h"
 #include "support/test_session.h"
 
 namespace tarrowin::test {
 namespace {
 
-// A database opened by an Access with that many references, the last unknown of them without a file.
+// A database opened by an Access with that many references, the last unknown of them without a
+// file.
 Json databaseWith(int references, int unknown = 0) {
   Json database = emptyDatabase();
   std::vector<Json> list;

@@ -174,7 +174,7 @@ constexpr ActionRow kRows[] = {
     // TransferSpreadsheet: Transfer Type, Spreadsheet Type, Table Name, File Name, Has Field
     // Names, Range. The list of spreadsheet types grew with each version: it is written as a number.
     {48, "TransferSpreadsheet", "DoCmd.TransferSpreadsheet {*}", {choice(kTransferTypes), number, text, text, yesNo, text}},
-    // TransferText: Transfer Type, Specification Name, Table Name, File Name, Has Field Names, HTML
+    // TransferText: Transfer Type, name of the saved layout, Table Name, File Name, Has Field Names, HTML
     // Table Name; Code Page from 2000 on.
     {49, "TransferText", "DoCmd.TransferText {*}", {choice(kTextTransferTypes), text, text, text, yesNo, text, number}},
     // OutputTo: Object Type, Object Name, Output Format, Output File, Auto Start, Template File;
