@@ -1,6 +1,6 @@
 // The recordsets of a Data Environment: their groups, parents and relations.
-#include "reports/data_environment.h"
 #include "project/project_text.h"
+#include "reports/data_environment.h"
 #include "reports/data_environment_session.h"
 
 namespace tarrowin::test {
