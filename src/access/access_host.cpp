@@ -1,8 +1,11 @@
 // The host object: starting and finding the application, and the window calls.
 #include "access/access_host.h"
 
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
+#include "access/exports/folder_catalog.h"
 #include "access/model/application_object.h"
 
 namespace tarrowin {
@@ -45,6 +48,8 @@ class HostObject : public NamedObject {
       case Member::kSendKeys:
       case Member::kDoEvents:
         return {};
+      case Member::kIsExportFolder:
+        return isExportFolder(toText(use.argument(0)));
       case Member::kFindWindowA:
         return findWindow(use.argument(0));
       case Member::kSendMessageA:
@@ -75,6 +80,12 @@ class HostObject : public NamedObject {
     auto application = std::make_shared<ApplicationObject>(state_);
     state_->application = application;
     return ObjectRef(std::move(application));
+  }
+
+  bool isExportFolder(const std::string& path) const {
+    const std::string folder = state_->diskPath(path);
+    std::error_code error;
+    return std::filesystem::is_directory(folder, error) && exports::isExport(folder);
   }
 
   std::int32_t findWindow(const Value& className) const {

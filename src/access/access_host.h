@@ -17,6 +17,8 @@ struct HostOptions {
   CodePage codePage{CodePage::kWestern};
   // How new objects are written; without one by the operations of the disk.
   std::shared_ptr<ReplaceOperations> operations = nullptr;
+  // Designs of an .mdb come from the exports beside it (access/database_source.h).
+  bool designsFromExports = false;
 };
 
 // The machine. Its members, matched like all names without regard to case:
@@ -35,6 +37,8 @@ struct HostOptions {
 //   and the
 //                           class is "OMain", else 0
 //   call SendMessageA(window, message, w, l)   0
+//   call IsExportFolder(path)  whether the path is a folder that OpenCurrentDatabase takes, one of
+//                           exported objects
 //   get OpenProblem         why the last OpenCurrentDatabase failed, for a person: file name and
 //   reason;
 //                           empty when it did not fail

@@ -1,4 +1,4 @@
-// Tells recordings from .mdb files and opens either.
+// Tells recordings, exports and .mdb files apart and opens any of them.
 #include "access/database_source.h"
 
 #include <cerrno>
@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "access/exports/export_model.h"
 #include "access/mdb/mdb_database.h"
 #include "access/model/mdb_model.h"
 #include "access/snapshot/snapshot_keeper.h"
@@ -23,13 +24,14 @@ namespace {
 
 // How far a recording's first character is looked for.
 constexpr std::size_t kHeadSize = 4096;
+constexpr std::string_view kIsFolder = "is a directory";
 
 // Empty, or why the path is no file that could be read.
 std::string problemWith(const std::string& path) {
   struct stat status {};
   if (::stat(path.c_str(), &status) != 0)
     return errno == ENOENT || errno == ENOTDIR ? "the file does not exist" : std::strerror(errno);
-  if (S_ISDIR(status.st_mode)) return "is a directory";
+  if (S_ISDIR(status.st_mode)) return std::string(kIsFolder);
   if (!S_ISREG(status.st_mode)) return "is not a regular file";
   return {};
 }
@@ -90,6 +92,34 @@ std::unique_ptr<DatabaseModel> openMdb(const std::string& path, const CodePage& 
   }
 }
 
+// None for a path that holds no exported objects.
+std::unique_ptr<DatabaseModel> openExports(const std::string& path, const CodePage& codePage) {
+  std::error_code error;
+  const bool isDirectory = std::filesystem::is_directory(path, error);
+  try {
+    const auto catalog =
+        isDirectory ? exports::catalogOfFolder(path) : exports::catalogOfFile(path);
+    return catalog ? exports::makeExportModel(*catalog, codePage) : nullptr;
+  } catch (const exports::TooManyFiles& failure) {
+    throw OpenFailure(kErrAutomationFail, failure.what());
+  }
+}
+
+void takeDesignsBeside(const std::string& path, DatabaseModel& model) {
+  const auto catalog = exports::catalogBeside(path);
+  if (!catalog) throw OpenFailure(kErrAutomationFail, "there are no exported designs beside it");
+  exports::takeDesigns(*catalog, model);
+}
+
+// Absolute and without anything behind the name, so that what is kept beside a folder never comes
+// to lie in it.
+std::string cleanFolderPath(const std::string& path) {
+  std::error_code error;
+  if (!std::filesystem::is_directory(path, error)) return path;
+  std::filesystem::path clean = std::filesystem::canonical(path, error);
+  return error ? path : clean.string();
+}
+
 // Reads the new objects that are kept beside the source; their file's hash, none without them.
 std::optional<std::size_t> addNewObjects(const std::string& path, DatabaseModel& model) {
   std::error_code error;
@@ -116,18 +146,24 @@ bool isRecording(const std::string& path) {
   return startsLikeRecording(head);
 }
 
-std::unique_ptr<DatabaseModel> openDatabaseFile(const std::string& path, const CodePage& codePage,
-                                                std::shared_ptr<ReplaceOperations> operations) {
-  if (const std::string problem = problemWith(path); !problem.empty())
-    throw OpenFailure(kErrAutomationFail, problem);
-  std::unique_ptr<DatabaseModel> model;
+std::unique_ptr<DatabaseModel> openDatabaseFile(const std::string& chosenPath,
+                                                const CodePage& codePage,
+                                                std::shared_ptr<ReplaceOperations> operations,
+                                                bool designsFromExports) {
+  const std::string path = cleanFolderPath(chosenPath);
+  const std::string problem = problemWith(path);
+  const bool isFolder = problem == kIsFolder;
+  if (!problem.empty() && !isFolder) throw OpenFailure(kErrAutomationFail, problem);
   KeptFile ownFile{path, std::nullopt};
-  if (isRecording(path)) {
+  std::unique_ptr<DatabaseModel> model;
+  if (!isFolder && isRecording(path)) {
     const std::string text = readRecordingText(path);
     model = readingRecording([&] { return readSnapshot(text, codePage); });
     ownFile.hash = contentHash(text);
-  } else {
+  } else if (model = openExports(path, codePage); !model) {
+    if (isFolder) throw OpenFailure(kErrAutomationFail, problem);
     model = openMdb(path, codePage);
+    if (designsFromExports) takeDesignsBeside(path, *model);
   }
   model->path = path;
   if (model->name.empty()) {

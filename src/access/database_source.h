@@ -35,10 +35,13 @@ inline constexpr std::int32_t kErrPassword = 3031;
 // The tree of the database at that path (as the disk knows it), with the new objects that are kept
 // beside it and a keeper for more, which writes by these operations or by the disk's own. A
 // recording keeps its new objects in itself, unless it is write-protected or has some beside it
-// already. Throws OpenFailure.
+// already. The path may also be that of a folder of exported objects, or of one exported object,
+// which is opened as a database of its own (access/exports). When asked, the forms, reports and
+// macros of an .mdb have the designs of the exports beside it, in NAME.mdb.src, NAME.src or source,
+// which must be there then. Throws OpenFailure.
 std::unique_ptr<DatabaseModel> openDatabaseFile(
     const std::string& path, const CodePage& codePage,
-    std::shared_ptr<ReplaceOperations> operations = nullptr);
+    std::shared_ptr<ReplaceOperations> operations = nullptr, bool designsFromExports = false);
 
 // Whether the file is a recording: its first character, behind a byte order mark and blanks, is a
 // "{". False for what cannot be read.

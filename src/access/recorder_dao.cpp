@@ -74,6 +74,39 @@ Value valueForParameter(std::int32_t daoType) {
   }
 }
 
+// One row of a macro's sheet.
+Json recordAction(const RecordedObject& macro, std::int32_t row) {
+  const auto cell = [&](std::int32_t column) {
+    return macro.call("RowText", {Value(row), Value(column)});
+  };
+  Json arguments = Json::array();
+  constexpr std::int32_t kFirstArgument = 4;
+  for (std::int32_t column = kFirstArgument;; ++column) {
+    const Value argument = cell(column);
+    if (argument.isEmpty()) break;
+    arguments.push_back(toText(argument));
+  }
+  return {{"macroName", toText(cell(0))},
+          {"condition", toText(cell(1))},
+          {"action", toText(cell(2))},
+          {"arguments", std::move(arguments)},
+          {"comment", toText(cell(3))}};
+}
+
+// Access itself tells no more of a macro than its name.
+Json recordMacro(const RecordedObject& macro) {
+  Json entry;
+  entry["name"] = macro.text("Name");
+  try {
+    const std::int32_t rows = macro.number("RowCount");
+    for (std::int32_t row = 0; row < rows; ++row)
+      entry["actions"].push_back(recordAction(macro, row));
+  } catch (const VbError& error) {
+    if (error.number() != kErrNoSuchMember) entry["openError"] = recordError(error);
+  }
+  return entry;
+}
+
 void recordQueryResult(const RecordedObject& query, Json& entry) {
   try {
     const RecordedObject recordset(toObject(query.call("OpenRecordset")));
@@ -173,7 +206,7 @@ Json recordMacros(const RecordedObject& database) {
   Json macros = Json::array();
   database.object("Containers", Value("Scripts"))
       .forEach("Documents", [&macros](const RecordedObject& document) {
-        macros.push_back({{"name", document.text("Name")}});
+        macros.push_back(recordMacro(document));
       });
   return macros;
 }

@@ -47,19 +47,34 @@ class TemporaryDirectory {
 
 struct DesignRecorder::Kind {
   std::int32_t objectType;
-  std::string_view container, openMethod, collection, modulePrefix;
+  std::string_view openMethod, collection, modulePrefix;
   int sectionCount;
 };
+
+const DesignRecorder::Kind DesignRecorder::kFormKind = {kForm, "OpenForm", "Forms", "Form_",
+                                                        kFormSections};
+const DesignRecorder::Kind DesignRecorder::kReportKind = {kReport, "OpenReport", "Reports",
+                                                          "Report_", kReportSections};
 
 DesignRecorder::DesignRecorder(const RecordedObject& application, const RecordedObject& database)
     : application_(application), database_(database) {}
 
 Json DesignRecorder::forms() {
-  return designs({kForm, "Forms", "OpenForm", "Forms", "Form_", kFormSections});
+  Json result = Json::array();
+  for (const std::string& name : documentNames("Forms")) result.push_back(form(name));
+  return result;
 }
 
 Json DesignRecorder::reports() {
-  return designs({kReport, "Reports", "OpenReport", "Reports", "Report_", kReportSections});
+  Json result = Json::array();
+  for (const std::string& name : documentNames("Reports")) result.push_back(report(name));
+  return result;
+}
+
+Json DesignRecorder::modules() {
+  Json result = Json::array();
+  for (const std::string& name : documentNames("Modules")) result.push_back(module(name));
+  return result;
 }
 
 std::vector<std::string> DesignRecorder::documentNames(std::string_view container) const {
@@ -71,25 +86,24 @@ std::vector<std::string> DesignRecorder::documentNames(std::string_view containe
   return names;
 }
 
-Json DesignRecorder::designs(const Kind& kind) {
-  Json result = Json::array();
-  for (const std::string& name : documentNames(kind.container)) {
-    Json entry;
-    try {
-      const RecordedObject doCmd = application_.object("DoCmd");
-      if (kind.objectType == kForm)
-        doCmd.call(kind.openMethod, {Value(name), Value(kDesign), Value(), Value(),
-                                     Value(kPropertySettings), Value(kHidden)});
-      else
-        doCmd.call(kind.openMethod, {Value(name), Value(kDesign)});
-      entry = design(kind, name);
-      doCmd.call("Close", {Value(kind.objectType), Value(name), Value(kSaveNo)});
-    } catch (const VbError& error) {
-      entry = {{"name", name}, {"openError", recordError(error)}};
-    }
-    result.push_back(std::move(entry));
+Json DesignRecorder::form(const std::string& name) { return openedDesign(kFormKind, name); }
+
+Json DesignRecorder::report(const std::string& name) { return openedDesign(kReportKind, name); }
+
+Json DesignRecorder::openedDesign(const Kind& kind, const std::string& name) {
+  try {
+    const RecordedObject doCmd = application_.object("DoCmd");
+    if (kind.objectType == kForm)
+      doCmd.call(kind.openMethod, {Value(name), Value(kDesign), Value(), Value(),
+                                   Value(kPropertySettings), Value(kHidden)});
+    else
+      doCmd.call(kind.openMethod, {Value(name), Value(kDesign)});
+    Json entry = design(kind, name);
+    doCmd.call("Close", {Value(kind.objectType), Value(name), Value(kSaveNo)});
+    return entry;
+  } catch (const VbError& error) {
+    return {{"name", name}, {"openError", recordError(error)}};
   }
-  return result;
 }
 
 Json DesignRecorder::design(const Kind& kind, const std::string& name) {
@@ -174,23 +188,18 @@ bool DesignRecorder::isTableOrQuery(const std::string& name) const {
   return false;
 }
 
-Json DesignRecorder::modules() {
-  Json result = Json::array();
-  for (const std::string& name : documentNames("Modules")) {
-    Json entry;
-    try {
-      application_.object("DoCmd").call("OpenModule", {Value(name)});
-      entry = module(name);
-      application_.object("DoCmd").call("Close", {Value(kModule), Value(name), Value(kSaveNo)});
-    } catch (const VbError& error) {
-      entry = {{"name", name}, {"openError", recordError(error)}};
-    }
-    result.push_back(std::move(entry));
+Json DesignRecorder::module(const std::string& name) {
+  try {
+    application_.object("DoCmd").call("OpenModule", {Value(name)});
+    Json entry = openedModule(name);
+    application_.object("DoCmd").call("Close", {Value(kModule), Value(name), Value(kSaveNo)});
+    return entry;
+  } catch (const VbError& error) {
+    return {{"name", name}, {"openError", recordError(error)}};
   }
-  return result;
 }
 
-Json DesignRecorder::module(const std::string& name) {
+Json DesignRecorder::openedModule(const std::string& name) {
   const RecordedObject module = application_.object("Modules", Value(name));
   Json entry;
   entry["name"] = name;

@@ -13,6 +13,8 @@ constexpr std::string_view kOrders = R"({
                                    {"name": "Note", "type": 12}],
      "rows": [[1, "first"], [2], [3, {"error": 3197}]]},
     {"name": "orders", "fields": [{"name": "Other", "type": 10, "size": 50}]},
+    {"name": "Orders1", "fields": [{"name": "OrderID", "type": 4}, {"name": "Note", "type": 12}],
+     "rows": [[1, "first"], [2], [3, "third"]]},
     {"name": "View", "fields": [{"name": "X", "type": 4, "sourceTable": "Orders"}]}],
   "queries": [
     {"name": "Big Orders", "sql": "SELECT * FROM Orders;\r\n",
@@ -20,10 +22,16 @@ constexpr std::string_view kOrders = R"({
      "fields": [{"name": "OrderID", "type": 4, "size": 4, "sourceTable": "Orders"}]},
     {"name": "Locked", "sql": {"error": 2601}, "fields": [], "recordsetError": 2601},
     {"name": "Odd", "sql": {"error": 3258, "description": "Ambiguous."}},
+    {"name": "Remarks", "sql": "SELECT Note AS Remark FROM Orders1;\r\n"},
+    {"name": "Remarks 2", "sql": "SELECT Remark AS Again FROM Remarks;\r\n"},
+    {"name": "Recorded Remarks", "sql": "SELECT Note FROM Orders1;",
+     "fields": [{"name": "Note", "type": 12, "sourceTable": "Orders1"}]},
     {"name": "Free", "sql": "SELECT OrderID FROM Orders WHERE OrderID = [Which]"}],
   "recordsets": [
     {"source": "SELECT 1", "fields": [{"name": "Recorded", "type": 4, "size": 4}]},
     {"source": "SELECT * FROM Orders WHERE X = [p]", "error": 3061},
+    {"source": "SELECT Note FROM Orders1 ",
+     "fields": [{"name": "Note", "type": 12, "sourceTable": "Orders1"}]},
     {"source": "SELECT 2", "error": 3078, "description": "Gone."},
     {"source": "SELECT 3", "error": {"error": 3112, "description": "Denied."}}],
   "relations": [{"name": "CustomersOrders", "table": "Customers", "foreignTable": "Orders",
@@ -37,6 +45,10 @@ class DaoTest : public AccessTest {
   DaoTest() { openRecording(kOrders); }
   ObjectRef open(const std::string& source) {
     return toObject(call(database, "OpenRecordset", {source, 2}));
+  }
+  // The field in the first row of the source.
+  std::string firstText(const std::string& source, const char* field) {
+    return text(child(open(source), "Fields", {field}), "Value");
   }
 };
 
@@ -64,7 +76,7 @@ TEST_F(DaoTest, LookUpIgnoresCaseAnExactMatchFirst) {
   EXPECT_EQ(text(item(tables, "orders"), "Name"), "orders");
   EXPECT_EQ(text(item(tables, "ORDERS"), "Name"), "Orders");  // the first of the others
   EXPECT_EQ(errorOf([&] { item(tables, "Nothing"); }), 3265);
-  EXPECT_EQ(errorOf([&] { item(tables, 3); }), 3265);
+  EXPECT_EQ(errorOf([&] { item(tables, 4); }), 3265);
   EXPECT_EQ(errorOf([&] { item(tables, -1); }), 3265);
   EXPECT_EQ(errorOf([&] { item(tables, Value::Null{}); }), 94);
   call(tables, "Refresh");
@@ -175,6 +187,51 @@ TEST_F(DaoTest, RecordsetWithoutKnownRowsIsAtItsEnd) {
   EXPECT_TRUE(toBoolean(get(rows, "BOF")));
   EXPECT_EQ(errorOf([&] { get(child(rows, "Fields", {0}), "Value"); }), 3021);
   EXPECT_EQ(errorOf([&] { call(rows, "MoveFirst"); }), 3021);
+}
+
+TEST_F(DaoTest, PlainSelectWalksTheRowsOfItsTable) {
+  const ObjectRef rows = open("SELECT Note AS Remark, OrderID FROM orders1");
+  const ObjectRef id = child(rows, "Fields", {"OrderID"});
+  const ObjectRef remark = child(rows, "Fields", {"remark"});
+  EXPECT_EQ(number(id, "Value"), 1);
+  EXPECT_EQ(text(remark, "Value"), "first");
+  call(rows, "MoveNext");
+  EXPECT_EQ(number(id, "Value"), 2);
+  EXPECT_TRUE(get(remark, "Value").isNull());
+  call(rows, "MoveNext");
+  call(rows, "MoveNext");
+  EXPECT_TRUE(toBoolean(get(rows, "EOF")));
+  EXPECT_EQ(firstText("SELECT * FROM Orders1", "Note"), "first");
+}
+
+TEST_F(DaoTest, QueryOnQueryWalksTheRowsOfTheTable) {
+  EXPECT_EQ(firstText("Remarks", "Remark"), "first");
+  EXPECT_EQ(firstText("Remarks 2", "Again"), "first");
+  EXPECT_EQ(firstText("SELECT Again FROM [Remarks 2]", "Again"), "first");
+  EXPECT_EQ(firstText("Recorded Remarks", "Note"), "first");
+  EXPECT_EQ(firstText("SELECT Note FROM Orders1 ", "Note"), "first");  // a recorded source
+}
+
+TEST_F(DaoTest, ComputedFieldIsNotKnown) {
+  const ObjectRef rows = open("SELECT OrderID, 1+1 AS Two FROM Orders1");
+  EXPECT_EQ(number(child(rows, "Fields", {"OrderID"}), "Value"), 1);
+  EXPECT_EQ(errorOf([&] { get(child(rows, "Fields", {"Two"}), "Value"); }),
+            static_cast<std::int32_t>(0x80004001u));
+}
+
+TEST_F(DaoTest, SelectThatDoesMoreHasNoKnownRows) {
+  for (const char* source :
+       {"SELECT OrderID FROM Orders1 WHERE OrderID = 3",
+        "SELECT OrderID FROM Orders1 ORDER BY Note", "SELECT DISTINCT OrderID FROM Orders1",
+        "SELECT Orders1.OrderID FROM Orders1, View", "SELECT OrderID FROM Orders1 GROUP BY OrderID",
+        "SELECT Count(*) AS N FROM Orders1",
+        "SELECT OrderID FROM Orders1 UNION SELECT OrderID FROM Orders1",
+        "SELECT OrderID FROM Orders1 IN 'other.mdb'", "SELECT X FROM View",
+        "SELECT OrderID FROM (SELECT OrderID FROM Orders1)"}) {
+    const ObjectRef rows = open(source);
+    EXPECT_TRUE(toBoolean(get(rows, "EOF"))) << source;
+    EXPECT_EQ(errorOf([&] { get(child(rows, "Fields", {0}), "Value"); }), 3021) << source;
+  }
 }
 
 TEST_F(DaoTest, Relations) {

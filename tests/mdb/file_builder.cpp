@@ -322,7 +322,8 @@ std::uint32_t FileBuilder::addTable(const std::string& name,
 }
 
 void FileBuilder::addObject(std::int32_t id, const std::string& name, int type, std::uint32_t flags,
-                            Cell properties, std::string connect, std::string foreignName) {
+                            Cell properties, std::string connect, std::string foreignName,
+                            std::string file) {
   std::vector<Cell> cells(catalogColumns().size());
   cells[0] = le32(static_cast<std::uint32_t>(id));
   cells[1] = le32(0x0F000001);
@@ -331,6 +332,7 @@ void FileBuilder::addObject(std::int32_t id, const std::string& name, int type, 
   cells[4] = leDouble(kCreated);
   cells[5] = leDouble(kCreated + 1);
   cells[7] = le32(flags);
+  if (!file.empty()) cells[8] = longInRow(text(file));
   if (!connect.empty()) cells[9] = longInRow(text(connect));
   if (!foreignName.empty()) cells[10] = text(foreignName);
   if (properties) cells[14] = longInRow(*properties);

@@ -76,7 +76,8 @@ class FileBuilder {
                          const std::vector<std::vector<Cell>>& cells, std::uint32_t flags = 0);
   // Any other object of the catalog.
   void addObject(std::int32_t id, const std::string& name, int type, std::uint32_t flags = 0,
-                 Cell properties = {}, std::string connect = {}, std::string foreignName = {});
+                 Cell properties = {}, std::string connect = {}, std::string foreignName = {},
+                 std::string file = {});
 
   // Jet 3: the 20 bytes; Jet 4: the password as 40 bytes, mixed with the day of creation.
   void setPassword(const Bytes& password) { password_ = password; }

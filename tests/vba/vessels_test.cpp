@@ -82,6 +82,14 @@ TEST_F(AccessStorage, StreamsReadBackwardsAndTwice) {
   }
 }
 
+// Each reading is an operation of its own: together they copy far more than the file holds.
+TEST_F(AccessStorage, StreamReadAThousandTimes) {
+  addRoots();
+  add(1, 10, kStream, "S", Bytes(3000, 1));
+  const StreamStore store = open();
+  for (int i = 0; i < 1000; ++i) ASSERT_EQ(store.read(store.find({"S"}).value()).size(), 3000u);
+}
+
 TEST_F(AccessStorage, FoldersInsideEachOtherAreNeverReached) {
   addRoots();
   add(1, 2, kFolder, "A");

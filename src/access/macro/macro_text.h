@@ -1,28 +1,17 @@
 // Reads a macro out of the text that Access's SaveAsText writes of it.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <span>
-#include <stdexcept>
-#include <string>
 #include <vector>
 
+#include "access/macro/export_lines.h"
 #include "access/macro/macro_action.h"
 #include "shared/code_page.h"
 
 namespace tarrowin {
 
-class MacroTextError : public std::runtime_error {
- public:
-  MacroTextError(std::size_t line, const std::string& problem)
-      : std::runtime_error("line " + std::to_string(line) + ": " + problem), line_(line) {}
-
-  std::size_t line() const { return line_; }  // from 1
-
- private:
-  std::size_t line_;
-};
+using MacroTextError = ExportTextError;
 
 // The rows of the sheet, empty ones too, without those that repeat the macro as XML; their texts in
 // the code page. The bytes are a whole file in any encoding of exports. Properties that a row may

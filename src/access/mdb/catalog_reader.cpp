@@ -3,6 +3,10 @@
 #include "access/mdb/catalog_reader.h"
 
 #include <algorithm>
+#include <array>
+#include <deque>
+#include <utility>
+#include <vector>
 
 #include "access/mdb/damage.h"
 
@@ -73,11 +77,21 @@ CatalogObject readObject(const RowCursor& row, const CatalogColumns& columns) {
   return object;
 }
 
-void sortByName(std::vector<CatalogObject>& objects) {
-  std::stable_sort(objects.begin(), objects.end(),
-                   [](const CatalogObject& left, const CatalogObject& right) {
-                     return nameLess(left.name, right.name);
-                   });
+// Objects as they are read. Large databases have thousands, so they are moved about only once, to
+// their places in the list.
+using ReadObjects = std::deque<CatalogObject>;
+
+std::vector<CatalogObject> sortedByName(ReadObjects&& objects) {
+  std::vector<CatalogObject*> order;
+  order.reserve(objects.size());
+  for (CatalogObject& object : objects) order.push_back(&object);
+  std::ranges::stable_sort(order, [](const CatalogObject* left, const CatalogObject* right) {
+    return nameLess(left->name, right->name);
+  });
+  std::vector<CatalogObject> sorted;
+  sorted.reserve(order.size());
+  for (CatalogObject* object : order) sorted.push_back(std::move(*object));
+  return sorted;
 }
 
 }  // namespace
@@ -85,17 +99,20 @@ void sortByName(std::vector<CatalogObject>& objects) {
 Catalog readCatalog(const FileContext& file, const TableDefinition& definition) {
   CatalogColumns columns(definition);
   Catalog catalog;
+  std::array<ReadObjects, Catalog::kKinds> byKind;
+  ReadObjects tables;
   RowCursor row(file, definition);
   while (row.next()) {
     CatalogObject object = readObject(row, columns);
     if (object.name.starts_with(kLeftover)) continue;
     catalog.rows.emplace(object.id, row.address());
     bool table = object.kind == ObjectKind::kTable || object.kind == ObjectKind::kLinkedTable;
-    if (table) catalog.tables.push_back(object);
-    catalog.byKind[static_cast<std::size_t>(object.kind)].push_back(std::move(object));
+    if (table) tables.push_back(object);
+    byKind[static_cast<std::size_t>(object.kind)].push_back(std::move(object));
   }
-  for (auto& objects : catalog.byKind) sortByName(objects);
-  sortByName(catalog.tables);
+  for (std::size_t kind = 0; kind < byKind.size(); ++kind)
+    catalog.byKind[kind] = sortedByName(std::move(byKind[kind]));
+  catalog.tables = sortedByName(std::move(tables));
   return catalog;
 }
 

@@ -7,14 +7,9 @@
 #include "access/mdb/byte_view.h"
 #include "access/mdb/jet_format.h"
 #include "access/mdb/page_file.h"
+#include "access/mdb/row_address.h"
 
 namespace tarrowin::mdb {
-
-// Where a row stands in the file.
-struct RowAddress {
-  std::uint32_t page = 0;
-  std::uint16_t row = 0;  // 0-based on the page
-};
 
 // The form in which pages point at rows: u8 row, u24 page.
 RowAddress readRowAddress(const ByteView& view, std::size_t at);

@@ -79,6 +79,15 @@ std::string inDatabase(std::string_view path, std::string_view connect) {
   return connect.empty() ? text : text + "[" + std::string(connect) + "]";
 }
 
+// A subquery in the place of a name, as text exports have it; no table is named like that.
+bool isSubquery(std::string_view name) {
+  constexpr std::string_view kSelect = "SELECT";
+  if (name.size() <= kSelect.size()) return false;
+  for (std::size_t i = 0; i < kSelect.size(); ++i)
+    if ((name[i] & ~0x20) != kSelect[i]) return false;
+  return std::string_view(" \t\r\n").find(name[kSelect.size()]) != std::string_view::npos;
+}
+
 // A table of another database, or a plain name, or a subquery as Access 97 to 2003 writes it.
 std::string sourceText(const QueryRow& row) {
   const std::string_view name = textOf(row.name1);
@@ -91,7 +100,7 @@ std::string sourceText(const QueryRow& row) {
     text = (written ? std::string(expression) : "[" + std::string(expression) + "]") + "." +
            bracketedName(name);
   } else {
-    text = bracketedName(name);
+    text = isSubquery(name) ? "(" + std::string(name) + ")" : bracketedName(name);
   }
   return withAlias(std::move(text), textOf(row.name2));
 }

@@ -70,6 +70,12 @@ void RowCursor::moveTo(RowAddress address) {
   address_ = address;
 }
 
+void RowCursor::revisit(RowAddress address) {
+  file_->pages.checkStillThere();
+  budget_ = StepBudget::forFile(file_->pages.fileSize());
+  moveTo(address);
+}
+
 // The count of a definition is not exact. Only when it promises more rows than were met and pages
 // have been passed over, or pages of the table are missing in its usage map, are rows lost.
 void RowCursor::checkCount() const {
@@ -105,6 +111,11 @@ Value RowCursor::value(std::size_t column) const {
 }
 
 std::optional<std::string> RowCursor::text(std::size_t column) const {
+  const StoredColumn& stored = definition_->stored[column];
+  if (stored.type == kDaoText) {
+    const std::optional<ByteView> cell = row_.cell(stored);
+    return cell ? std::optional(file_->text.column(cell->bytes())) : std::nullopt;
+  }
   Value value = this->value(column);
   if (value.text() == nullptr) return std::nullopt;
   return *value.text();

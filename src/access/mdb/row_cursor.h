@@ -35,6 +35,8 @@ class RowCursor {
   bool next();
   // Straight to a row that address() once gave.
   void moveTo(RowAddress address);
+  // The same as an operation of its own, with a new budget; next() goes on from where it was.
+  void revisit(RowAddress address);
   // Where the current row is to be found again.
   RowAddress address() const { return address_; }
 

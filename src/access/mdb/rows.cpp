@@ -16,6 +16,12 @@ bool Rows::next() {
   return inContext("table", source_->tableName, [&] { return source_->cursor.next(); });
 }
 
+RowAddress Rows::address() const { return source_->cursor.address(); }
+
+void Rows::revisit(RowAddress address) {
+  inContext("table", source_->tableName, [&] { source_->cursor.revisit(address); });
+}
+
 std::size_t Rows::columnCount() const {
   return source_ ? source_->cursor.definition().columns.size() : 0;
 }

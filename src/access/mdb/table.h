@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "access/mdb/row_address.h"
 #include "shared/value.h"
 
 namespace tarrowin::mdb {
@@ -49,6 +50,11 @@ class Rows {
 
   // To the next row; false when there is none left. Throws Error (kDamaged).
   bool next();
+  // Where the current row is to be found again.
+  RowAddress address() const;
+  // To a row passed before, by what address() gave there; next() goes on from where it was. Throws
+  // Error (kDamaged).
+  void revisit(RowAddress address);
   std::size_t columnCount() const;
   // The cell of the current row in the column at the 0-based position of Database::columns. Byte,
   // Integer and Long are longs; Currency, Single, Double and Decimal doubles; a GUID is text in

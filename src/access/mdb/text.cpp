@@ -2,6 +2,8 @@
 // Malformed UTF-16 becomes U+FFFD, so that what leaves this file is always valid UTF-8.
 #include "access/mdb/text.h"
 
+#include <algorithm>
+#include <optional>
 #include <stdexcept>
 #include <utility>
 
@@ -9,6 +11,7 @@ namespace tarrowin::mdb {
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
+constexpr unsigned char kFirstBeyondAscii = 0x80;
 
 void appendUtf8(std::string& out, char32_t c) {
   auto put = [&out](char32_t byte) { out.push_back(static_cast<char>(byte)); };
@@ -65,8 +68,19 @@ char32_t unitAt(std::span<const std::uint8_t> bytes, std::size_t at) {
   return static_cast<char32_t>(bytes[at] | (bytes[at + 1] << 8));
 }
 
+// The text when it is ASCII, as most texts are.
+std::optional<std::string> asciiFromUtf16(std::span<const std::uint8_t> bytes) {
+  std::string text(bytes.size() / 2, '\0');
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (bytes[2 * i] >= kFirstBeyondAscii || bytes[2 * i + 1] != 0) return std::nullopt;
+    text[i] = static_cast<char>(bytes[2 * i]);
+  }
+  return text;
+}
+
 // An odd last byte is no character.
 std::string utf8FromUtf16(std::span<const std::uint8_t> bytes) {
+  if (auto text = asciiFromUtf16(bytes)) return *std::move(text);
   Utf8Writer writer;
   writer.reserve(bytes.size());
   for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) writer.unit(unitAt(bytes, at));
@@ -126,6 +140,15 @@ char32_t toLower(char32_t c) {
   return c;
 }
 
+// How many bytes the two begin with alike, up to the start of a character.
+std::size_t equalStart(std::string_view left, std::string_view right) {
+  const std::size_t shorter = std::min(left.size(), right.size());
+  std::size_t equal = 0;
+  while (equal < shorter && left[equal] == right[equal]) ++equal;
+  while (equal > 0 && static_cast<unsigned char>(left[equal - 1]) >= kFirstBeyondAscii) --equal;
+  return equal;
+}
+
 }  // namespace
 
 std::string TextDecoder::column(std::span<const std::uint8_t> bytes) const {
@@ -148,8 +171,8 @@ CodePage knownCodePage(int number) {
 }
 
 int compareIgnoringCase(std::string_view left, std::string_view right) {
-  std::size_t l = 0;
-  std::size_t r = 0;
+  std::size_t l = equalStart(left, right);
+  std::size_t r = l;
   while (l < left.size() && r < right.size()) {
     char32_t a = toLower(nextCharacter(left, l));
     char32_t b = toLower(nextCharacter(right, r));

@@ -9,6 +9,7 @@ namespace tarrowin {
 namespace {
 
 using enum PropertyType;
+using enum Kept;
 
 constexpr auto kNull = DefaultValue::Kind::kNull, kOwnName = DefaultValue::Kind::kOwnName,
                kEventPrefix = DefaultValue::Kind::kEventPrefix,
@@ -17,12 +18,12 @@ constexpr auto kNull = DefaultValue::Kind::kNull, kOwnName = DefaultValue::Kind:
                kPagePosition = DefaultValue::Kind::kPagePosition;
 
 // Objects: ControlType of the controls.
-constexpr std::int32_t kForm = kFormObject, kSection = kSectionObject, kLabel = 100,
-                       kRectangle = 101, kLine = 102, kImage = 103, kCommandButton = 104,
-                       kOptionButton = 105, kCheckBox = 106, kOptionGroup = 107,
-                       kBoundObjectFrame = 108, kTextBox = 109, kListBox = 110, kComboBox = 111,
-                       kSubForm = 112, kObjectFrame = 114, kPageBreak = 118, kCustomControl = 119,
-                       kToggleButton = 122, kTabControl = 123, kPage = 124;
+constexpr std::int32_t kForm = kFormObject, kSection = kSectionObject, kReport = kReportObject,
+                       kGroupLevel = kGroupLevelObject, kLabel = 100, kRectangle = 101, kLine = 102,
+                       kImage = 103, kCommandButton = 104, kOptionButton = 105, kCheckBox = 106,
+                       kOptionGroup = 107, kBoundObjectFrame = 108, kTextBox = 109, kListBox = 110,
+                       kComboBox = 111, kSubForm = 112, kObjectFrame = 114, kPageBreak = 118,
+                       kCustomControl = 119, kToggleButton = 122, kTabControl = 123, kPage = 124;
 
 constexpr auto kDefaults = std::to_array<PropertyDefault>({
 #include "access/model/control_defaults.inc"
@@ -32,9 +33,12 @@ static_assert(std::ranges::is_sorted(kDefaults, {}, &PropertyDefault::object));
 
 constexpr char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
 
+// Letters of the code page lie anywhere from here on, and under UTF-8 all bytes of one do.
+constexpr unsigned char kFirstBeyondAscii = 0x80;
+
 bool isLetterOrDigit(char c) {
   return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') ||
-         static_cast<unsigned char>(c) >= 0xC0;  // letters of the code page
+         static_cast<unsigned char>(c) >= kFirstBeyondAscii;
 }
 
 }  // namespace
@@ -66,6 +70,7 @@ Value initialValue(const PropertyDefault& property, const std::string& objectNam
     case DefaultValue::Kind::kOwnType:
       return property.object;
     default:
+      if (property.type == kSingle) return static_cast<double>(property.value.number());
       return property.value.number();
   }
 }

@@ -1,5 +1,5 @@
-// What the properties of forms, sections and controls are before anything is set, and of which
-// type they are.
+// What the properties of forms, reports and what stands on them are before anything is set, of
+// which type they are, and how files keep them.
 #pragma once
 
 #include <cstdint>
@@ -53,13 +53,23 @@ class DefaultValue {
 };
 
 // Objects of the table that are no controls; a control's object is its ControlType.
-inline constexpr std::int32_t kFormObject = 0, kSectionObject = 1;
+inline constexpr std::int32_t kFormObject = 0, kSectionObject = 1, kReportObject = 2,
+                              kGroupLevelObject = 3;
+constexpr bool isControlObject(std::int32_t object) { return object > kGroupLevelObject; }
+
+// How the design of a form or report in a file keeps a property that differs from its default.
+enum class Kept : std::uint8_t {
+  kByName,    // under its name; a Boolean mostly by the mere presence of the name
+  kFromZero,  // the same, but the file counts from 0 what the property counts from 1
+  kNotKept,   // not at all: it follows from other properties or from the object's place
+};
 
 struct PropertyDefault {
   std::int32_t object;
   std::string_view name;
   PropertyType type;
   DefaultValue value;
+  Kept kept = Kept::kByName;
 };
 
 // The properties of the object in the order of its Properties collection; none for an object that

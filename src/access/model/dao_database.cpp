@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "access/model/dao_objects.h"
+#include "access/model/macro_document.h"
 
 namespace tarrowin {
 
@@ -160,7 +161,9 @@ class Container : public SessionObject {
       case Kind::kReports:
         return documentsOf(model().reports);
       case Kind::kScripts:
-        return documentsOf(model().macros);
+        return daoCollection(
+            model().macros, model().folding,
+            [owner = sessionRef()](std::size_t i) { return makeMacroDocument(owner, i); });
       default:
         return documentsOf(model().modules);
     }

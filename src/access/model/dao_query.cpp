@@ -74,7 +74,7 @@ class QueryDef : public SessionObject {
     switch (use.member()) {
       case Member::kOpenRecordset:
         return makeRecordset(sessionRef(), model().queries[query_].name,
-                             {session().openQuery(query_), nullptr});
+                             {session().openQuery(query_), {}});
       case Member::kClose:
         return {};
       default:

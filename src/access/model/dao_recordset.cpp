@@ -107,7 +107,7 @@ class RecordsetObject : public SessionObject {
         name_(std::move(name)),
         state_(std::make_shared<RecordsetState>()) {
     state_->fields = std::move(opened.fields);
-    if (opened.table) state_->openRows = opened.table->openRows;
+    state_->openRows = std::move(opened.openRows);
   }
 
  protected:

@@ -12,6 +12,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "access/designs/stored_design.h"
 #include "access/macro/macro_action.h"
 #include "access/model/case_folding.h"
 #include "access/model/lazy.h"
@@ -96,13 +97,18 @@ struct ControlModel {
   PropertyBag properties;
 };
 
-// The design of a form or a report.
-struct DesignModel {
-  std::string name;
+// What stands in the design of a form or a report.
+struct DesignBody {
   PropertyBag properties;
   std::vector<SectionModel> sections;
   std::vector<ControlModel> controls;
   std::vector<PropertyBag> groupLevels;
+  std::optional<Understood> understood;  // absent: all of it, as in a recording
+};
+
+struct DesignModel {
+  std::string name;
+  Lazy<DesignBody> body;  // a load that fails raises what opening the object raises
   Lazy<std::optional<std::string>> module;  // the text of its class module
   Lazy<std::optional<std::int32_t>> countOfLines;
   std::optional<RecordedError> openError, exportError;

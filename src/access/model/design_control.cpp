@@ -65,7 +65,7 @@ class Control : public PropertyOwner {
     }
     const NameId name = properties().nameAt(index);
     Value written = writtenValue(self().type, model().names.spelling(name), value);
-    open().edit().controls[control_].properties.set(model().names, name, std::move(written));
+    open().editBody().controls[control_].properties.set(model().names, name, std::move(written));
   }
 
   const PropertyBag& properties() const override { return self().properties; }
@@ -77,7 +77,7 @@ class Control : public PropertyOwner {
   }
 
  private:
-  const ControlModel& self() const { return design().controls[control_]; }
+  const ControlModel& self() const { return body().controls[control_]; }
 
   ObjectRef parent() const {
     const std::size_t holder = self().parent;
@@ -88,11 +88,11 @@ class Control : public PropertyOwner {
   // A name is of one control, and the properties that repeat it follow.
   void rename(const std::string& name) {
     if (name.empty() || name.size() > kLongestName) raise(design_error::kInvalidSetting);
-    const auto& controls = design().controls;
+    const auto& controls = body().controls;
     for (std::size_t i = 0; i < controls.size(); ++i)
       if (i != control_ && model().folding.equal(controls[i].name, name))
         raise(design_error::kControlNameTaken, name);
-    ControlModel& control = open().edit().controls[control_];
+    ControlModel& control = open().editBody().controls[control_];
     control.name = name;
     const auto repeat = [&](Member member, const std::string& text) {
       const NameId key = static_cast<NameId>(member);
@@ -117,8 +117,17 @@ class Control : public PropertyOwner {
     if (!design) raise(design_error::kObjectClosed);
     std::shared_ptr<OpenDesign>& loaded = open().loadedIn(control_);
     if (!loaded || loaded->isReport() != isReport || loaded->source() != design)
-      loaded = std::make_shared<OpenDesign>(*design, isReport);
+      loaded = load(*design, isReport);
     return makeDesign(sessionRef(), loaded);
+  }
+
+  // What cannot be read is not there for the form around it.
+  static std::shared_ptr<OpenDesign> load(const DesignModel& design, bool isReport) {
+    try {
+      return std::make_shared<OpenDesign>(design, isReport);
+    } catch (const VbError&) {
+      raise(design_error::kObjectClosed);
+    }
   }
 
   std::size_t control_;

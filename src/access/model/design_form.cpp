@@ -18,7 +18,7 @@ class FormOrReport : public PropertyOwner {
 
  protected:
   Reading tryRead(const MemberUse& use) override {
-    const Recorded<Value>* recorded = design().properties.valueOf(use.key);
+    const Recorded<Value>* recorded = body().properties.valueOf(use.key);
     if (recorded && recorded->error()) return readingOf(*recorded, use.name);
     switch (use.member()) {
       case Member::kName:
@@ -41,7 +41,7 @@ class FormOrReport : public PropertyOwner {
     if (recorded) return readingOf(*recorded, use.name);
     switch (use.member()) {
       case Member::kCount:
-        return answered(static_cast<std::int32_t>(design().controls.size()));
+        return answered(static_cast<std::int32_t>(body().controls.size()));
       case Member::kHasModule:
         return answered(design().module.get().has_value());
       case Member::kModule:
@@ -62,22 +62,22 @@ class FormOrReport : public PropertyOwner {
     const NameId name = properties().nameAt(index);
     Value written =
         open().isReport() ? value : writtenValue(kFormObject, model().names.spelling(name), value);
-    open().edit().properties.set(model().names, name, std::move(written));
+    open().editBody().properties.set(model().names, name, std::move(written));
   }
 
-  const PropertyBag& properties() const override { return design().properties; }
+  const PropertyBag& properties() const override { return body().properties; }
 
  private:
   // A new class module has what Access begins one with; taking it away takes its code.
   void setHasModule(bool hasModule) {
     DesignModel& changed = open().edit();
+    PropertyBag& ownProperties = changed.body.edit().properties;
     if (hasModule != changed.module.get().has_value()) {
       changed.module = hasModule ? std::optional<std::string>(kNewModuleText) : std::nullopt;
       changed.countOfLines = std::optional<std::int32_t>();
     }
-    if (changed.properties.valueOf(static_cast<NameId>(Member::kHasModule)))
-      changed.properties.set(model().names, static_cast<NameId>(Member::kHasModule),
-                             Value(hasModule));
+    if (ownProperties.valueOf(static_cast<NameId>(Member::kHasModule)))
+      ownProperties.set(model().names, static_cast<NameId>(Member::kHasModule), Value(hasModule));
   }
 
   ControlSource controls(std::int32_t missing = design_error::kNoField) {
@@ -94,8 +94,8 @@ class FormOrReport : public PropertyOwner {
     if (which.text()) raise(design_error::kSectionByText);
     if (which.isEmpty()) raise(design_error::kNoSection);
     const std::int32_t number = toLong(which);
-    for (std::size_t i = 0; i < design().sections.size(); ++i)
-      if (design().sections[i].number == number) return makeSection(sessionRef(), openRef(), i);
+    for (std::size_t i = 0; i < body().sections.size(); ++i)
+      if (body().sections[i].number == number) return makeSection(sessionRef(), openRef(), i);
     raise(design_error::kNoSection);
   }
 
@@ -103,7 +103,7 @@ class FormOrReport : public PropertyOwner {
     if (which.text()) raise(design_error::kGroupLevelByText);
     if (which.isEmpty()) raise(design_error::kNoGroupLevel);
     const std::int32_t level = toLong(which);
-    if (level < 0 || static_cast<std::size_t>(level) >= design().groupLevels.size())
+    if (level < 0 || static_cast<std::size_t>(level) >= body().groupLevels.size())
       raise(design_error::kNoGroupLevel);
     return makeGroupLevel(sessionRef(), openRef(), static_cast<std::size_t>(level));
   }

@@ -47,6 +47,7 @@ class DesignObject : public SessionObject {
   ControlSource controlSource(ControlList controls, std::int32_t pastEnd = design_error::kNoField,
                               std::int32_t missing = design_error::kNoField) const;
   const DesignModel& design() const { return open_->design(); }
+  const DesignBody& body() const { return open_->body(); }
   OpenDesign& open() const { return *open_; }
   const std::shared_ptr<OpenDesign>& openRef() const { return open_; }
 

@@ -15,7 +15,7 @@ class Section : public PropertyOwner {
 
  protected:
   Reading tryRead(const MemberUse& use) override {
-    const SectionModel& section = design().sections[section_];
+    const SectionModel& section = body().sections[section_];
     if (const Recorded<Value>* recorded = section.properties.valueOf(use.key))
       return readingOf(*recorded, use.name);
     switch (use.member()) {
@@ -40,10 +40,10 @@ class Section : public PropertyOwner {
       raise(design_error::kReadOnlyProperty);
     const NameId name = properties().nameAt(index);
     Value written = writtenValue(kSectionObject, model().names.spelling(name), value);
-    open().edit().sections[section_].properties.set(model().names, name, std::move(written));
+    open().editBody().sections[section_].properties.set(model().names, name, std::move(written));
   }
 
-  const PropertyBag& properties() const override { return design().sections[section_].properties; }
+  const PropertyBag& properties() const override { return body().sections[section_].properties; }
 
  private:
   std::size_t section_;
@@ -63,7 +63,7 @@ class GroupLevel : public PropertyOwner {
     return answered(propertiesOrItem(use));
   }
 
-  const PropertyBag& properties() const override { return design().groupLevels[level_]; }
+  const PropertyBag& properties() const override { return body().groupLevels[level_]; }
 
  private:
   std::size_t level_;

@@ -36,7 +36,7 @@ std::unique_ptr<DatabaseModel> HostState::open(const std::string& path) {
   if (known.model && known.path == file && known.fileState == stateOfFile(file))
     return std::move(known.model);
   known.model.reset();
-  return openDatabaseFile(file, options.codePage, options.operations);
+  return openDatabaseFile(file, options.codePage, options.operations, options.designsFromExports);
 }
 
 std::shared_ptr<const ApplicationErrors> HostState::selectedErrors() {

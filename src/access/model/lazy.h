@@ -22,6 +22,11 @@ class Lazy {
     }
     return *value_;
   }
+  // The value for changes.
+  T& edit() {
+    get();
+    return *value_;
+  }
 
  private:
   mutable std::optional<T> value_;

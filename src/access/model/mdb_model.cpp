@@ -1,8 +1,11 @@
 // Fills the tree with what the catalog lists, and leaves the rest to be read later.
 #include "access/model/mdb_model.h"
 
+#include <memory>
 #include <utility>
 
+#include "access/design_blob/design_streams.h"
+#include "access/designs/lazy_design.h"
 #include "access/macro/macro_blob.h"
 #include "access/mdb/damage.h"
 #include "access/mdb/query_text.h"
@@ -17,21 +20,33 @@ namespace {
 constexpr std::int32_t kErrCorrupt = 3049;
 // Access refused to open an object: the only number for which the conversions leave it alone.
 constexpr std::int32_t kErrRefused = 2601;
+// How DAO's Connect of a table on a server begins.
+constexpr std::string_view kServerConnect = "ODBC;";
+
+// The page of texts that Access 97 wrote. A later file may hold such designs and macros too, and
+// only its project tells in which page.
+CodePage ansiPageOf(const mdb::Database& database, const Lazy<vba::VbaProject>& project) {
+  return mdb::knownCodePage(database.isJet3() ? database.codePage() : project.get().codePage());
+}
 
 // The open file, shared by everything that reads from it later.
 struct Source {
   Source(mdb::Database&& opened, const CodePage& page)
       : database(std::move(opened)),
         codePage(page),
-        project([this] { return vba::VbaProject::open(database); }),
-        objects([this] { return vba::ObjectTree::open(database); }) {}
+        objects([this] {
+          return std::make_shared<const vba::ObjectTree>(vba::ObjectTree::open(database));
+        }),
+        project([this] { return openProject(); }),
+        ansiPage([this] { return ansiPageOf(database, project); }) {}
   Source(const Source&) = delete;
   Source& operator=(const Source&) = delete;
 
   mdb::Database database;
   CodePage codePage;
+  Lazy<std::shared_ptr<const vba::ObjectTree>> objects;
   Lazy<vba::VbaProject> project;
-  Lazy<vba::ObjectTree> objects;
+  Lazy<CodePage> ansiPage;
 
   std::string text(std::string_view utf8) const { return codePage.fromUtf8(utf8); }
   Value value(Value utf8) const {
@@ -45,6 +60,16 @@ struct Source {
       return action();
     } catch (const mdb::Error& error) {
       throw VbError(kErrCorrupt, text(database.fileName() + ": " + error.message()));
+    }
+  }
+
+ private:
+  // Without a tree the project says itself what is wrong, when it is asked.
+  vba::VbaProject openProject() const {
+    try {
+      return vba::VbaProject::open(database, objects.get());
+    } catch (const mdb::Error&) {
+      return vba::VbaProject::open(database);
     }
   }
 };
@@ -81,11 +106,17 @@ FieldList readFields(const Source& source, const mdb::CatalogObject& table) {
   });
 }
 
-// DAO's Connect of a linked table.
+// DAO's Connect of a linked table. The file keeps the path of another database apart from it, and
+// of a server's table not that it is one.
 std::string connectOf(const mdb::CatalogObject& table) {
   if (table.kind != mdb::ObjectKind::kLinkedTable) return {};
-  if (!table.connect.empty() || table.database.empty()) return table.connect;
-  return ";DATABASE=" + table.database;
+  if (table.database.empty()) {
+    const bool isWhole = table.connect.empty() || table.connect.starts_with(kServerConnect) ||
+                         table.connect.starts_with(';');
+    return isWhole ? table.connect : std::string(kServerConnect) + table.connect;
+  }
+  const bool isOpen = !table.connect.ends_with(';');
+  return table.connect + (isOpen ? ";" : "") + "DATABASE=" + table.database;
 }
 
 TableModel tableModel(const SourceRef& source, const mdb::CatalogObject& object) {
@@ -129,10 +160,6 @@ QueryModel queryModel(const SourceRef& source, const mdb::CatalogObject& object)
   return query;
 }
 
-RecordedError cannotOpen(std::int32_t number, std::string_view kind, const std::string& name) {
-  return {number, "Microsoft Access can't open the " + std::string(kind) + " '" + name + "'."};
-}
-
 // The text of a module of the project, and its lines; the name is in UTF-8.
 std::string codeText(const Source& source, const std::string& module) {
   return source.reading([&] { return source.text(source.project.get().moduleText(module)); });
@@ -142,20 +169,38 @@ std::optional<std::int32_t> codeLines(const Source& source, const std::string& m
       [&] { return static_cast<std::int32_t>(source.project.get().countOfLines(module)); });
 }
 
-// A form or report: its name and the code behind it, which the project keeps under the prefix.
-DesignModel designModel(const SourceRef& source, const mdb::CatalogObject& object,
-                        const RecordedError& openError, std::string_view prefix) {
-  const std::string module = std::string(prefix) + object.name;
-  DesignModel design;
-  design.name = source->text(object.name);
-  design.openError = openError;
+bool isForm(const mdb::CatalogObject& object) { return object.kind == mdb::ObjectKind::kForm; }
+
+StoredDesign readDesign(const Source& source, const mdb::CatalogObject& object) {
+  const auto container = isForm(object) ? vba::Container::kForms : vba::Container::kReports;
+  try {
+    return readStoredDesign(*source.objects.get(), container, object.name, source.ansiPage,
+                            source.codePage);
+  } catch (const mdb::Error& error) {
+    throw VbError(kErrRefused, source.text("Its design cannot be read: " + error.message() + "."));
+  }
+}
+
+// The module that the project keeps of the code behind a form or report.
+std::string moduleBehind(const mdb::CatalogObject& object) {
+  return (isForm(object) ? "Form_" : "Report_") + object.name;
+}
+
+// A form or report: its design, and the code behind it. Databases have thousands of them, so what
+// waits for them to be opened is kept small.
+DesignModel designModel(DatabaseModel& model, const SourceRef& source,
+                        const mdb::CatalogObject& object) {
+  DesignModel design = lazyDesign(model, source->text(object.name),
+                                  isForm(object) ? DesignKind::kForm : DesignKind::kReport,
+                                  [source, &object] { return readDesign(*source, object); });
   design.module =
-      Lazy<std::optional<std::string>>([source, module]() -> std::optional<std::string> {
+      Lazy<std::optional<std::string>>([source, &object]() -> std::optional<std::string> {
+        const std::string module = moduleBehind(object);
         if (source->project.get().find(module) == nullptr) return std::nullopt;
         return codeText(*source, module);
       });
-  design.countOfLines =
-      Lazy<std::optional<std::int32_t>>([source, module] { return codeLines(*source, module); });
+  design.countOfLines = Lazy<std::optional<std::int32_t>>(
+      [source, &object] { return codeLines(*source, moduleBehind(object)); });
   return design;
 }
 
@@ -172,21 +217,14 @@ ModuleModel moduleModel(const SourceRef& source, const mdb::CatalogObject& objec
   return module;
 }
 
-// The page of texts that Access 97 wrote. A later file may hold such macros too, and only its
-// project tells in which page.
-CodePage ansiPage(const Source& source) {
-  if (source.database.isJet3()) return mdb::knownCodePage(source.database.codePage());
-  return mdb::knownCodePage(source.project.get().codePage());
-}
-
 std::vector<MacroAction> readActions(const Source& source, const std::string& name) {
   return source.reading([&] {
     return mdb::inContext("macro", name, [&] {
-      const vba::ObjectTree& objects = source.objects.get();
+      const vba::ObjectTree& objects = *source.objects.get();
       const vba::StoredObject* const stored = objects.find(vba::Container::kMacros, name);
       if (stored == nullptr) mdb::raiseDamaged("it has no design");
       const auto blob = objects.stream(*stored, "Blob");
-      return readMacroBlob(blob.value_or(Bytes()), ansiPage(source), source.codePage);
+      return readMacroBlob(blob.value_or(Bytes()), source.ansiPage.get(), source.codePage);
     });
   });
 }
@@ -200,15 +238,10 @@ MacroModel macroModel(const SourceRef& source, const mdb::CatalogObject& object)
 }
 
 void addAccessObjects(const SourceRef& source, DatabaseModel& model) {
-  for (const auto& object : source->database.forms()) {
-    const std::string name = source->text(object.name);
-    model.forms.add(designModel(source, object, cannotOpen(kErrRefused, "form", name), "Form_"));
-  }
-  for (const auto& object : source->database.reports()) {
-    const std::string name = source->text(object.name);
-    model.reports.add(
-        designModel(source, object, cannotOpen(kErrRefused, "report", name), "Report_"));
-  }
+  for (const auto& object : source->database.forms())
+    model.forms.add(designModel(model, source, object));
+  for (const auto& object : source->database.reports())
+    model.reports.add(designModel(model, source, object));
   for (const auto& object : source->database.macros()) model.macros.add(macroModel(source, object));
   for (const auto& object : source->database.modules())
     model.modules.add(moduleModel(source, object));

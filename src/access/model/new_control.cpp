@@ -81,11 +81,11 @@ class ControlMaker {
   }
 
  private:
-  const std::vector<ControlModel>& controls() const { return open_.design().controls; }
+  const std::vector<ControlModel>& controls() const { return open_.body().controls; }
 
   bool isKnown(std::int32_t type) const {
     return database_.controlTemplates.contains(type) ||
-           (type != kFormObject && type != kSectionObject && !defaultsOf(type).empty());
+           (isControlObject(type) && !defaultsOf(type).empty());
   }
 
   static void checkPlace(const NewControl& wanted) {
@@ -122,7 +122,7 @@ class ControlMaker {
   std::int32_t sectionOf(const NewControl& wanted, std::size_t parent) const {
     if (parent != ControlModel::kNoParent)
       if (const auto section = sectionOf(controls()[parent])) return *section;
-    const auto& sections = open_.design().sections;
+    const auto& sections = open_.body().sections;
     const bool isThere = std::ranges::any_of(
         sections, [&](const SectionModel& one) { return one.number == wanted.section; });
     if (!isThere && wanted.section != kDetailSection) raise(design_error::kNoSection);
@@ -141,7 +141,7 @@ class ControlMaker {
   }
 
   std::size_t append(ControlModel control) {
-    auto& list = open_.edit().controls;
+    auto& list = open_.editBody().controls;
     list.push_back(std::move(control));
     return list.size() - 1;
   }

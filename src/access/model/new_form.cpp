@@ -40,15 +40,20 @@ std::unique_ptr<DesignModel> fromTemplate(const DatabaseModel& database, const s
   if (!source) raise(kErrNoForm, name);
   if (source->openError) source->openError->raise(source->name);
   auto form = std::make_unique<DesignModel>();
-  form->properties = source->properties;
-  form->sections = source->sections;
+  const DesignBody& body = source->body.get();
+  DesignBody copied;
+  copied.properties = body.properties;
+  copied.sections = body.sections;
+  form->body = std::move(copied);
   return form;
 }
 
 std::unique_ptr<DesignModel> fromDefaults(NameTable& names, const std::string& name) {
   auto form = std::make_unique<DesignModel>();
-  form->properties = defaultProperties(kFormObject, name, names);
-  form->sections.push_back({0, defaultProperties(kSectionObject, kDetailName, names)});
+  DesignBody body;
+  body.properties = defaultProperties(kFormObject, name, names);
+  body.sections.push_back({0, defaultProperties(kSectionObject, kDetailName, names)});
+  form->body = std::move(body);
   return form;
 }
 
@@ -65,9 +70,10 @@ std::shared_ptr<OpenDesign> createForm(Session& session, const std::string& temp
   auto form = templateName.empty() ? fromDefaults(names, name)
                                    : fromTemplate(session.model(), templateName);
   form->name = name;
-  setIfThere(form->properties, names, Member::kName, name);
-  setIfThere(form->properties, names, Member::kFormName, name);
-  setIfThere(form->properties, names, Member::kHasModule, false);
+  PropertyBag& properties = form->body.edit().properties;
+  setIfThere(properties, names, Member::kName, name);
+  setIfThere(properties, names, Member::kFormName, name);
+  setIfThere(properties, names, Member::kHasModule, false);
   auto open = std::make_shared<OpenDesign>(std::move(form), templateName);
   session.openForms.push_back(open);
   return open;

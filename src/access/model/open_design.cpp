@@ -7,6 +7,7 @@ DesignModel& OpenDesign::edit() {
   if (!copy_) {
     copy_ = std::make_unique<DesignModel>(*design_);
     design_ = copy_.get();
+    body_ = &copy_->body.get();
   }
   controlIndex_.reset();
   return *copy_;
@@ -21,7 +22,7 @@ void OpenDesign::close() {
 }
 
 ControlIndex& OpenDesign::controlIndex() {
-  if (!controlIndex_) controlIndex_.emplace(design_->controls);
+  if (!controlIndex_) controlIndex_.emplace(body_->controls);
   return *controlIndex_;
 }
 

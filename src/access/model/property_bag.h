@@ -32,7 +32,7 @@ class PropertyBag {
 
  private:
   // A scan over neighbouring numbers beats a hash up to about this many.
-  static constexpr std::size_t kScanLimit = 96;
+  static constexpr std::size_t kScanLimit = 128;
 
   std::vector<NameId> keys_;
   std::vector<NameId> names_;

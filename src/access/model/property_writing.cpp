@@ -41,7 +41,7 @@ constexpr Range kRanges[] = {
 bool concerns(const Range& range, const PropertyDefault& property) {
   if (range.property != property.name) return false;
   if (range.object != kAnyControl) return range.object == property.object;
-  return property.object != kFormObject && property.object != kSectionObject;
+  return isControlObject(property.object);
 }
 
 std::int32_t wholeNumber(const Value& value, std::int32_t lowest, std::int32_t highest) {

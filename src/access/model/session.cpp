@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "access/model/object_keeper.h"
+#include "access/model/query_rows.h"
 
 namespace tarrowin {
 
@@ -189,21 +190,27 @@ Session::Opened Session::openRecordset(std::string_view source) {
   const auto recorded = database.recordsets.find(std::string(source));
   if (recorded != database.recordsets.end()) {
     if (recorded->second.error) recorded->second.error->raise(source);
-    return {recorded->second.fields, nullptr};
+    return onQuery(source, recorded->second.fields);
   }
   if (const TableModel* table = database.tables.find(source, database.folding))
-    return {fieldsOfTable(*table), table};
+    return {fieldsOfTable(*table), table->openRows};
 
   const std::size_t query = database.queries.indexOf(source, database.folding);
   if (query != NamedList<QueryModel>::kNotFound) {
     const QueryModel& queryModel = database.queries[query];
     if (queryModel.recordsetError) queryModel.recordsetError->raise(queryModel.name);
-    if (queryModel.fields) return {*queryModel.fields, nullptr};
+    if (queryModel.fields) return onQuery(source, *queryModel.fields);
   }
   const CodePage& page = database.codePage;
   return inCodePage(page, [&] {
-    return Opened{toModel(analyzer().fieldsOf(page.toUtf8(source)), page), nullptr};
+    return onQuery(source, toModel(analyzer().fieldsOf(page.toUtf8(source)), page));
   });
+}
+
+Session::Opened Session::onQuery(std::string_view source, FieldList fields) const {
+  return {fields, [this, source = std::string(source), fields] {
+            return openQueryRows(*this, source, fields);
+          }};
 }
 
 }  // namespace tarrowin

@@ -1,6 +1,7 @@
 // An open database: the tree, and what is open in it.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,12 +19,14 @@ namespace tarrowin {
 // first one makes a copy, which is gone when the object is closed.
 class OpenDesign {
  public:
+  // Raises what reading the design raises.
   OpenDesign(const DesignModel& design, bool isReport)
-      : source_(&design), design_(&design), isReport_(isReport) {}
+      : source_(&design), design_(&design), body_(&design.body.get()), isReport_(isReport) {}
   // A form that the database does not have yet, made from the form of that name.
   OpenDesign(std::unique_ptr<DesignModel> created, std::string templateName)
       : source_(created.get()),
         design_(created.get()),
+        body_(&created->body.get()),
         copy_(std::move(created)),
         isReport_(false),
         isNew_(true),
@@ -32,12 +35,14 @@ class OpenDesign {
   // As stored, and as it looks now.
   const DesignModel* source() const { return source_; }
   const DesignModel& design() const { return *design_; }
+  const DesignBody& body() const { return *body_; }
   bool isReport() const { return isReport_; }
   bool isNew() const { return isNew_; }
   // Empty for what is not new.
   const std::string& templateName() const { return templateName_; }
   // The copy for changes, which are to be made before anything else is asked.
   DesignModel& edit();
+  DesignBody& editBody() { return edit().body.edit(); }
 
   bool isOpen() const { return open_; }
   // Closes it with all that is loaded in its subform controls.
@@ -51,6 +56,7 @@ class OpenDesign {
  private:
   const DesignModel* source_;
   const DesignModel* design_;
+  const DesignBody* body_;
   std::unique_ptr<DesignModel> copy_;
   bool isReport_;
   bool isNew_ = false;
@@ -100,13 +106,16 @@ class Session {
   // Database.OpenRecordset.
   struct Opened {
     FieldList fields;
-    const TableModel* table = nullptr;  // whose rows it walks
+    // Empty, or giving null: no rows are known.
+    std::function<std::unique_ptr<RowCursor>()> openRows;
   };
   Opened openRecordset(std::string_view source);
 
  private:
   class RecordSourceSchema;
   RecordSourceAnalyzer& analyzer();
+  // A recordset of these fields on a query by its name or on an SQL text.
+  Opened onQuery(std::string_view source, FieldList fields) const;
 
   std::unique_ptr<DatabaseModel> model_;
   bool open_ = true;

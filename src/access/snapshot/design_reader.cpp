@@ -57,16 +57,16 @@ class ParentSearch {
   std::unordered_multimap<std::string, std::size_t> byName_;
 };
 
-void readControls(JsonValue list, DesignModel& design, const SnapshotValues& values,
+void readControls(JsonValue list, DesignBody& body, const SnapshotValues& values,
                   const CaseFolding& folding) {
   SnapshotValues::requireList(list);
-  design.controls.reserve(list.size());
-  for (const JsonValue entry : list) design.controls.push_back(readControl(entry, values));
-  const ParentSearch search(design.controls, folding);
+  body.controls.reserve(list.size());
+  for (const JsonValue entry : list) body.controls.push_back(readControl(entry, values));
+  const ParentSearch search(body.controls, folding);
   std::size_t index = 0;
   for (const JsonValue entry : list) {
     if (const auto parent = entry.member("parent"))
-      design.controls[index].parent = search.find(values.text(*parent));
+      body.controls[index].parent = search.find(values.text(*parent));
     ++index;
   }
 }
@@ -77,19 +77,20 @@ DesignModel readDesign(JsonValue entry, const SnapshotValues& values, const Case
   SnapshotValues::requireObject(entry);
   DesignModel design;
   design.name = values.requiredTextIn(entry, "name");
+  DesignBody body;
   if (const auto properties = entry.member("properties"))
-    design.properties = values.properties(*properties);
+    body.properties = values.properties(*properties);
   if (const auto sections = entry.member("sections")) {
     SnapshotValues::requireList(*sections);
-    for (const JsonValue section : *sections)
-      design.sections.push_back(readSection(section, values));
+    for (const JsonValue section : *sections) body.sections.push_back(readSection(section, values));
   }
   if (const auto controls = entry.member("controls"))
-    readControls(*controls, design, values, folding);
+    readControls(*controls, body, values, folding);
   if (const auto levels = entry.member("groupLevels")) {
     SnapshotValues::requireList(*levels);
-    for (const JsonValue level : *levels) design.groupLevels.push_back(values.properties(level));
+    for (const JsonValue level : *levels) body.groupLevels.push_back(values.properties(level));
   }
+  design.body = std::move(body);
   design.module = values.optionalTextIn(entry, "module");
   design.countOfLines = values.countIn(entry, "countOfLines");
   design.openError = values.optionalErrorIn(entry, "openError");

@@ -16,27 +16,28 @@ class ObjectWriter {
   explicit ObjectWriter(const DatabaseModel& database) : database_(database) {}
 
   Json form(const DesignModel& form) const {
+    const DesignBody& body = form.body.get();
     Json entry;
     entry["name"] = utf8(form.name);
-    entry["properties"] = properties(form.properties);
+    entry["properties"] = properties(body.properties);
     entry["sections"] = Json::array();
-    for (const SectionModel& section : form.sections)
+    for (const SectionModel& section : body.sections)
       entry["sections"].push_back(
           {{"number", section.number}, {"properties", properties(section.properties)}});
     entry["controls"] = Json::array();
-    for (const ControlModel& one : form.controls) entry["controls"].push_back(control(form, one));
+    for (const ControlModel& one : body.controls) entry["controls"].push_back(control(body, one));
     const std::optional<std::string>& module = form.module.get();
     entry["module"] = module ? Json(utf8(*module)) : Json();
     return entry;
   }
 
  private:
-  Json control(const DesignModel& form, const ControlModel& control) const {
+  Json control(const DesignBody& body, const ControlModel& control) const {
     Json entry;
     entry["name"] = utf8(control.name);
     entry["type"] = control.type;
     if (control.parent != ControlModel::kNoParent)
-      entry["parent"] = utf8(form.controls[control.parent].name);
+      entry["parent"] = utf8(body.controls[control.parent].name);
     entry["properties"] = properties(control.properties);
     return entry;
   }

@@ -79,12 +79,12 @@ std::vector<StoredObject> ObjectTree::readObjects(Container container) const {
 }
 
 const StoredObject* ObjectTree::find(Container container, std::string_view name) const {
-  const StoredObject* found = nullptr;
-  for (const StoredObject& object : objects(container)) {
+  const std::vector<StoredObject>& all = objects(container);
+  for (const StoredObject& object : all)
     if (object.name == name) return &object;
-    if (!found && mdb::compareIgnoringCase(object.name, name) == 0) found = &object;
-  }
-  return found;
+  for (const StoredObject& object : all)
+    if (mdb::compareIgnoringCase(object.name, name) == 0) return &object;
+  return nullptr;
 }
 
 std::optional<Bytes> ObjectTree::stream(const StoredObject& object, std::string_view name) const {

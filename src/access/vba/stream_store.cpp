@@ -42,12 +42,12 @@ StreamStore::Node StreamStore::add(Node folder, Entry entry) {
 }
 
 std::optional<StreamStore::Node> StreamStore::child(Node folder, std::string_view name) const {
-  std::optional<Node> found;
-  for (Node node : nodes_[folder].children) {
+  const std::vector<Node>& children = nodes_[folder].children;
+  for (Node node : children)
     if (nodes_[node].name == name) return node;
-    if (!found && mdb::compareIgnoringCase(nodes_[node].name, name) == 0) found = node;
-  }
-  return found;
+  for (Node node : children)
+    if (mdb::compareIgnoringCase(nodes_[node].name, name) == 0) return node;
+  return std::nullopt;
 }
 
 std::optional<StreamStore::Node> StreamStore::find(

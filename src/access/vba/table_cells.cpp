@@ -1,4 +1,4 @@
-// Walking a table forwards, and from its start again for a row passed already.
+// Walking a table forwards, and straight back to a row passed already.
 // See table_cells.h.
 #include "access/vba/table_cells.h"
 
@@ -21,25 +21,22 @@ std::size_t TableCells::column(std::string_view name) const {
 }
 
 bool TableCells::moveTo(std::size_t row) {
-  if (!rows_ || row + 1 < next_) {
-    rows_.emplace(database_->rows(*table_));
-    next_ = 0;
-  }
-  while (next_ <= row) {
-    bool more = false;
-    try {
-      more = rows_->next();
-    } catch (...) {
-      rows_.reset();
-      throw;
+  try {
+    if (row < passed_.size()) {
+      rows_->revisit(passed_[row]);
+      return true;
     }
-    if (!more) {
-      rows_.reset();
-      return false;
+    if (!rows_) rows_.emplace(database_->rows(*table_));
+    while (passed_.size() <= row) {
+      if (!rows_->next()) return false;
+      passed_.push_back(rows_->address());
     }
-    ++next_;
+    return true;
+  } catch (...) {
+    rows_.reset();
+    passed_.clear();
+    throw;
   }
-  return true;
 }
 
 std::int32_t TableCells::number(std::size_t column) const {

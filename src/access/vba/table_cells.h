@@ -4,12 +4,13 @@
 #include <cstddef>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "access/mdb/mdb_database.h"
 
 namespace tarrowin::vba {
 
-// Reading the rows in ascending order costs one walk over the table.
+// A row is found by one walk over the table up to it, and again without any.
 class TableCells {
  public:
   // The database must live and stay in its place. Throws mdb::Error (kDamaged) when it has no such
@@ -31,7 +32,7 @@ class TableCells {
   const mdb::Database* database_;
   const mdb::CatalogObject* table_;
   std::optional<mdb::Rows> rows_;
-  std::size_t next_ = 0;  // row to which rows_ goes next
+  std::vector<mdb::RowAddress> passed_;  // the rows that the walk has met
 };
 
 }  // namespace tarrowin::vba
