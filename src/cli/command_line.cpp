@@ -12,11 +12,13 @@
 
 #include <CLI/CLI.hpp>
 
+#include "cli/compare_command.h"
 #include "cli/console.h"
 #include "cli/convert_command.h"
 #include "cli/exit_status.h"
 #include "cli/list_command.h"
 #include "cli/object_kinds.h"
+#include "cli/preview_command.h"
 #include "cli/record_command.h"
 #include "cli/script_command.h"
 
@@ -26,6 +28,10 @@ namespace {
 
 // What stands for an option that was given without a name; no object can bear it.
 constexpr const char* kNoNameGiven = "\x01";
+
+// Values of the option --designs.
+constexpr const char* kDesignsOfFile = "file";
+constexpr const char* kDesignsOfExport = "export";
 
 class CommandLine {
  public:
@@ -43,6 +49,7 @@ class CommandLine {
     addConvert();
     addRecord();
     addPreview();
+    addCompare();
     addScript();
   }
 
@@ -58,12 +65,23 @@ class CommandLine {
     added->callback([this, command = std::move(command)] { command_ = command; });
     return added;
   }
-  static void addSource(CLI::App& command, std::string& source) {
+  void addSource(CLI::App& command, std::string& source) {
     command
-        .add_option("SOURCE", source, "The database: an .mdb file or a recording (.access.json)")
+        .add_option(
+            "SOURCE", source,
+            "The database: an .mdb file, a recording (.access.json), or a folder or file of "
+            "objects that Access exported as text")
         ->required()
         ->option_text(" ");
+    command
+        .add_option_function<std::string>(
+            "--designs", [this](const std::string& from) { takeDesignsFrom(from); },
+            "Where the forms, reports and macros of an .mdb come from: the file itself, or the "
+            "export folder beside it (NAME.mdb.src, NAME.src or source); file unless given")
+        ->check(CLI::IsMember({kDesignsOfFile, kDesignsOfExport}))
+        ->option_text("file|export");
   }
+  void takeDesignsFrom(const std::string& source);
   static void addCodePage(CLI::App& command, int& codePage) {
     command
         .add_option("--code-page", codePage,
@@ -76,24 +94,36 @@ class CommandLine {
   void addKind(CLI::App& command, const ObjectKind& kind, CLI::Option& all);
   void addRecord();
   void addPreview();
+  void addCompare();
   void addScript();
   ExitStatus convert();
   std::string commandWords() const;
 
-  const Environment& environment_;
+  Environment environment_;
   CLI::App app_;
   std::function<ExitStatus()> command_;
   ListOptions list_;
   ConvertOptions convert_;
   RecordOptions record_;
   ScriptOptions script_;
-  std::string previewSource_, previewForm_;
+  PreviewOptions preview_;
+  CompareOptions compare_;
 };
+
+void CommandLine::takeDesignsFrom(const std::string& source) {
+  if (source != kDesignsOfExport) return;
+  environment_.run.createHost = [create = environment_.run.createHost](HostOptions options) {
+    options.designsFromExports = true;
+    return create(std::move(options));
+  };
+}
 
 void CommandLine::addList() {
   CLI::App* command = addCommand("list", "List the objects of a database by kind",
                                  [this] { return listSource(environment_, list_); });
   addSource(*command, list_.source);
+  command->add_flag("--detail", list_.detail,
+                    "Tell of each form, report and macro how much of its design is understood");
   command->add_flag("--json", list_.json, "Print JSON for a program to read");
 }
 
@@ -181,10 +211,27 @@ void CommandLine::addRecord() {
 
 void CommandLine::addPreview() {
   CLI::App* command = addCommand(
-      "preview", "Show how a form will look when converted (not in this version)",
-      []() -> ExitStatus { throw CommandFailure("this version of Tarrowin cannot preview yet"); });
-  addSource(*command, previewSource_);
-  command->add_option("FORM", previewForm_, "The form's name")->required()->option_text(" ");
+      "preview", "List the Visual Basic controls that a form will have, and their places",
+      [this] { return previewForm(environment_, preview_); });
+  addSource(*command, preview_.source);
+  command->add_option("FORM", preview_.form, "The form's name")->required()->option_text(" ");
+  command->add_flag("--json", preview_.json, "Print JSON for a program to read");
+}
+
+void CommandLine::addCompare() {
+  CLI::App* command = addCommand("compare", "Print where two databases differ, object by object",
+                                 [this] { return compareSources(environment_, compare_); });
+  command->add_option("A", compare_.first, "A database, as SOURCE of the other commands")
+      ->required()
+      ->option_text(" ");
+  command->add_option("B", compare_.second, "The other one")->required()->option_text(" ");
+  command->add_flag("--generators-only", compare_.generatorsOnly,
+                    "Of forms and reports compare only the properties that conversions read");
+  command->add_flag("--json", compare_.json, "Print JSON for a program to read");
+  command->footer(
+      "Compared are the fields of tables, relations, SQL texts, forms and reports with all that\n"
+      "stands on them and their modules, macros as Visual Basic, and modules; the rows of tables\n"
+      "are not. Exit status: 0 nothing differs, 1 something does, 2 unusable arguments or source.");
 }
 
 void CommandLine::addScript() {

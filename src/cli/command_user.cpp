@@ -64,6 +64,7 @@ std::string CommandUser::openFile(const OpenDialog& dialog) {
 
 void CommandUser::refresh(const MainWindow& window) {
   static_cast<void>(window);
+  if (selected_ == 0) return;  // only a batch has a progress line
   ++reached_;
   console_.progress([this] {
     return "Converting " + words_ + ": " + std::to_string(reached_) + " of " +

@@ -2,12 +2,14 @@
 // the one whether to stop the program, and shows boxes on standard error.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "cli/console.h"
 #include "core/user.h"
+#include "preview/preview_surface.h"
 #include "shared/code_page.h"
 
 namespace tarrowin {
@@ -26,12 +28,15 @@ class CommandUser : public User {
 
   // Texts of the boxes since beginBatch, in UTF-8 with plain line ends.
   const std::vector<std::string>& messages() const { return messages_; }
+  // What was shown last; nothing before the first preview.
+  const std::optional<PreviewSurface>& preview() const { return preview_; }
   // A box that tells of a failure was shown since beginBatch or the start.
   bool sawFailure() const { return sawFailure_; }
 
   Answer messageBox(int style, std::string_view text, std::string_view title) override;
   std::string openFile(const OpenDialog& dialog) override;
   void refresh(const MainWindow& window) override;
+  void showPreview(const PreviewSurface& surface) override { preview_ = surface; }
 
  private:
   Console& console_;
@@ -42,6 +47,7 @@ class CommandUser : public User {
   std::size_t reached_ = 0;
   std::vector<std::string> messages_;
   bool sawFailure_ = false;
+  std::optional<PreviewSurface> preview_;
 };
 
 }  // namespace tarrowin

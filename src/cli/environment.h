@@ -1,11 +1,9 @@
 // What the command line is given from outside: its streams, its clock, its machine.
 #pragma once
 
-#include <functional>
 #include <string>
 
-#include "access/access_host.h"
-#include "core/main_object.h"
+#include "program/program_run.h"
 
 namespace tarrowin {
 
@@ -15,8 +13,7 @@ struct Environment {
   Console& console;
   // Absolute, as the disk knows it.
   std::string workingDirectory;
-  std::function<Date()> clock = systemNow;
-  std::function<ObjectRef(HostOptions)> createHost = createAccessHost;
+  RunEnvironment run = {};
 };
 
 }  // namespace tarrowin

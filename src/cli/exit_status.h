@@ -8,6 +8,7 @@ namespace tarrowin {
 enum class ExitStatus : int {
   kDone = 0,          // all was converted, or the command did what it was asked for
   kNotConverted = 1,  // something selected was not converted
+  kDiffers = 1,       // the two sources of a comparison differ
   kUnusable = 2,      // unusable arguments, source or script
 };
 

@@ -11,6 +11,8 @@ namespace tarrowin {
 struct ListOptions {
   std::string source;
   bool json = false;
+  // Also how much of the design of each form, report and macro is understood.
+  bool detail = false;
 };
 
 // Names are printed without loss, whatever the code page of a conversion would make of them.

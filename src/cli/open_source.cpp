@@ -13,6 +13,17 @@ namespace tarrowin {
 
 namespace {
 
+// Of a folder the path ends in its own name.
+std::string sourcePath(const Environment& environment, const std::string& source) {
+  const std::filesystem::path path = absolutePath(environment.workingDirectory, source);
+  const std::filesystem::path name = path.filename();
+  if (!name.empty() && name != "." && name != "..") return path.string();
+  std::error_code error;
+  if (!std::filesystem::is_directory(path, error)) return path.string();
+  const std::filesystem::path clean = std::filesystem::canonical(path, error);
+  return error ? path.string() : clean.string();
+}
+
 // What is wrong with a path before anything reads the file; empty when nothing is.
 std::string reasonOfPath(const std::string& path) {
   std::error_code error;
@@ -37,9 +48,9 @@ std::string reasonOfHost(MainObject& main, const CodePage& codePage, const std::
 
 OpenedSource::OpenedSource(const Environment& environment, const CodePage& codePage,
                            const std::string& source, MachinePaths machine)
-    : path_(absolutePath(environment.workingDirectory, source)),
+    : path_(sourcePath(environment, source)),
       user_(environment.console, codePage),
-      run_(environment, user_, codePage, environment.workingDirectory) {
+      run_(environment.run, user_, codePage, environment.workingDirectory) {
   if (source.empty()) throw CommandFailure("the name of the source is empty");
   main().machine = std::move(machine);
   user_.choosePath(pathInCodePage(codePage, path_));

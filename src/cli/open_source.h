@@ -5,7 +5,7 @@
 
 #include "cli/command_user.h"
 #include "cli/environment.h"
-#include "cli/program_run.h"
+#include "program/program_run.h"
 #include "shared/code_page.h"
 
 namespace tarrowin {

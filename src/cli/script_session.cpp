@@ -26,7 +26,7 @@ ScriptSession::ScriptSession(const Environment& environment, CodePage codePage, 
 void ScriptSession::startRun() {
   // The old run ends before the new one begins.
   run_.reset();
-  run_ = std::make_unique<ProgramRun>(environment_, user_, codePage_, folder_);
+  run_ = std::make_unique<ProgramRun>(environment_.run, user_, codePage_, folder_);
 }
 
 void ScriptSession::run(const ScriptStep& step) {

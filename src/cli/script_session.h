@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "cli/environment.h"
-#include "cli/program_run.h"
 #include "cli/script_user.h"
 #include "cli/session_script.h"
+#include "program/program_run.h"
 #include "shared/code_page.h"
 
 namespace tarrowin {

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "cli/preview_text.h"
 #include "core/window_events.h"
 
 namespace tarrowin {
@@ -81,6 +82,15 @@ std::string ScriptUser::openFile(const OpenDialog& dialog) {
   return path.empty() ? path : codePage_.fromUtf8(resolve_(path));
 }
 
+std::optional<std::string> ScriptUser::browseForFolder(std::string_view title) {
+  static_cast<void>(title);
+  if (answers_.empty()) return std::nullopt;
+  const std::string path = std::move(answers_.front());
+  answers_.pop_front();
+  if (path.empty()) return std::nullopt;
+  return codePage_.fromUtf8(resolve_(path));
+}
+
 void ScriptUser::captionChanged(const MainWindow& window) {
   if (window.caption == caption_) return;
   caption_ = window.caption;
@@ -95,6 +105,12 @@ void ScriptUser::listsFilled(const MainWindow& window) {
     for (const ListItem& item : window.list(list)) names.push_back(codePage_.toUtf8(item.text));
     event[std::string(nameOfList(list))] = std::move(names);
   }
+  transcript_(event);
+}
+
+void ScriptUser::showPreview(const PreviewSurface& surface) {
+  Json event = {{"event", "preview"}};
+  event.update(previewJson(surface, codePage_));
   transcript_(event);
 }
 

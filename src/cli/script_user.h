@@ -38,8 +38,10 @@ class ScriptUser : public User {
 
   Answer messageBox(int style, std::string_view text, std::string_view title) override;
   std::string openFile(const OpenDialog& dialog) override;
+  std::optional<std::string> browseForFolder(std::string_view title) override;
   void captionChanged(const MainWindow& window) override;
   void listsFilled(const MainWindow& window) override;
+  void showPreview(const PreviewSurface& surface) override;
   void programEnded() override { ended_ = true; }
 
  private:

@@ -23,6 +23,9 @@ struct OpenSubForm {
   std::string name;  // what tells it from others
 };
 
+// The texts of a help balloon, from 1 to 5.
+using BalloonTexts = std::array<std::string, 6>;
+
 // The fields of a source, and the data member that holds each.
 struct SourceMembers {
   std::string source;
@@ -160,6 +163,9 @@ struct ConversionState {
 
   // Scratch list of the SQL text analysis, filled from element 0 on; two elements after a reset.
   std::vector<std::string> gstrSourceTables{2};
+
+  // The labels and paragraphs of the next help balloon, from 1 to 5: the run.
+  BalloonTexts gastrBalloonLabels, gastrBalloonChecks;
 };
 
 }  // namespace tarrowin

@@ -8,6 +8,7 @@
 #include "core/main_object.h"
 #include "core/object_lists.h"
 #include "core/statement.h"
+#include "help/how_to.h"
 #include "shared/path_procedures.h"
 #include "shared/vb_text.h"
 
@@ -81,6 +82,8 @@ class Opening {
   bool choosePath();
   void releaseOldDatabase();
   bool fileIsThere();
+  bool isFolder(const std::string& path);
+  bool isExportFolder();
   void openInAccess();
   void checkVersion();
   void showDatabase();
@@ -107,6 +110,7 @@ class Opening {
 void Opening::open() {
   state_.mblnBadAttachedTables = false;
   state_.mblnOpenFailed = false;
+  refreshHowTo(main_.window, true);
   if (!choosePath()) return;
   if (path_ == state_.gstrDbPath) {
     box(message_style::kInformation,
@@ -138,6 +142,8 @@ bool Opening::choosePath() {
   dialog.defaultExt = "*.mdb";
   path_ = main_.user.openFile(dialog);
   if (path_.empty() || path_.find('*') != std::string::npos) return false;
+  // A folder may be written with a separator behind it.
+  while (path_.size() > 1 && path_.ends_with('/') && isFolder(path_)) path_.pop_back();
   // The dialog leaves the current directory at the chosen file's.
   ignoringErrors([&] { main_.files.ChDir(DirectoryOf(path_)); });
   return true;
@@ -154,6 +160,7 @@ bool Opening::fileIsThere() {
   state_.gstrDbFile = FileNameOf(path_);
   bool missing = false;
   statement([&] { missing = main_.files.Dir(state_.gstrDbFile).empty(); });
+  missing = missing && !isExportFolder();
   if (missing) {
     box(message_style::kInformation,
         "Unable to open database " + state_.gstrDbFile +
@@ -161,6 +168,23 @@ bool Opening::fileIsThere() {
             "corrupted.");
   }
   return !missing;
+}
+
+bool Opening::isFolder(const std::string& path) {
+  std::int32_t attributes = 0;
+  ignoringErrors([&] { attributes = main_.files.GetAttr(path); });
+  return (attributes & kAttrDirectory) != 0;
+}
+
+// Dir finds no folders; one of exported objects is opened like a database all the same.
+bool Opening::isExportFolder() {
+  bool isExport = false;
+  if (isFolder(state_.gstrDbFile))
+    ignoringErrors([&] {
+      const Value arguments[] = {Value(path_)};
+      isExport = toBoolean(main_.host.object()->call("IsExportFolder", arguments));
+    });
+  return isExport;
 }
 
 void Opening::openInAccess() {

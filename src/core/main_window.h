@@ -98,7 +98,10 @@ struct MainWindow {
   // The one common dialog; what it was last set to stays.
   OpenDialog CmnOpenDlg;
 
-  // The pager of the How to tab.
+  // The How to tab: the title and the steps of its page, then its pager: the number of the page
+  // from 0, and that of the last one.
+  Label lblTitle{"Using the Tarrowin", true};
+  std::array<Label, 7> lblInfo;
   Label lblCurrentPage, lblLastPage;
   Button cmdPrev{"View Previous Topic"};
   Button cmdNext{"View Next Topic"};

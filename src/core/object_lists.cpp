@@ -37,6 +37,12 @@ void reported(MainObject& main, std::string_view procedure, Body&& body) {
   }
 }
 
+// For that many items more: databases have thousands.
+void makeRoom(MainObject& main, ObjectList list, std::int32_t more) {
+  std::vector<ListItem>& items = main.window.list(list);
+  items.reserve(items.size() + static_cast<std::size_t>(std::max(more, 0)));
+}
+
 void addItem(MainObject& main, ObjectList list, const std::string& name, std::string_view icon) {
   main.window.list(list).push_back({name, std::string(icon), false});
 }
@@ -77,6 +83,7 @@ void getDocumentNames(MainObject& main, const ContainerRow& row) {
     names.reset();
     const Collection<Document> documents = main.state.mdbCurr.Containers(row.container).Documents();
     const std::int32_t count = documents.Count();
+    makeRoom(main, row.list, count);
     for (std::int32_t i = 0; i < count; ++i) {
       const std::string name = documents(i).Name();
       if (name.empty()) break;
@@ -92,6 +99,7 @@ void getDocumentNames(MainObject& main, const ContainerRow& row) {
 
 // The names of an array up to its first empty element, into the list of objects.
 void addObjects(MainObject& main, const GrowingList& names, std::string_view icon) {
+  makeRoom(main, ObjectList::kObjects, names.count());
   for (const std::string& name : names) {
     if (name.empty()) return;
     addItem(main, ObjectList::kObjects, name, icon);
@@ -199,6 +207,20 @@ void EnableMacButtons(MainObject& main) { enableButtons(main, kMacroRow); }
 void EnableModButtons(MainObject& main) { enableButtons(main, kModuleRow); }
 void EnableRptButtons(MainObject& main) { enableButtons(main, kReportRow); }
 void EnableObjButtons(MainObject& main) { enableButtons(main, kObjectRow); }
+
+void ApplyButtonState(MainObject& main) {
+  const MainWindow designed;
+  for (const ObjectList list : kObjectLists) {
+    if (main.window.list(list).size() <= 1)
+      main.window.headings[indexOf(list)].caption = designed.headings[indexOf(list)].caption;
+  }
+  EnableQryButtons(main);
+  EnableFrmButtons(main);
+  EnableMacButtons(main);
+  EnableModButtons(main);
+  EnableRptButtons(main);
+  EnableObjButtons(main);
+}
 
 void InsertObjectNames(MainObject& main) {
   reported(main, "InsertObjectNames", [&] {

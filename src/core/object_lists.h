@@ -24,6 +24,9 @@ void EnableModButtons(MainObject& main);
 void EnableRptButtons(MainObject& main);
 void EnableObjButtons(MainObject& main);
 
+// All six, and the heading above a list of at most one item reads in the singular again.
+void ApplyButtonState(MainObject& main);
+
 // Refills the lists of forms, modules and objects after macros became modules. cboFormNames is not
 // cleared, so its names then appear twice.
 void InsertObjectNames(MainObject& main);

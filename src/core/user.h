@@ -3,12 +3,15 @@
 // implement it.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarrowin {
 
 struct MainWindow;
+struct PreviewSurface;  // preview/preview_surface.h
 
 // The title of message boxes.
 inline constexpr std::string_view kProgramTitle = "Access to Visual Basic Tarrowin";
@@ -36,6 +39,14 @@ struct OpenDialog {
   std::string defaultExt;
 };
 
+// A balloon of the online help: a heading, a text, and up to five labels, which are links or
+// paragraphs.
+struct Balloon {
+  std::string heading;
+  std::string text;
+  std::vector<std::string> labels;
+};
+
 class User {
  public:
   virtual ~User() = default;
@@ -44,6 +55,19 @@ class User {
   virtual Answer messageBox(int style, std::string_view text, std::string_view title) = 0;
   // Shows the dialog; the chosen path, empty when cancelled.
   virtual std::string openFile(const OpenDialog& dialog) = 0;
+  // Shows the dialog for a folder; the chosen path, nothing when cancelled.
+  virtual std::optional<std::string> browseForFolder(std::string_view title) {
+    static_cast<void>(title);
+    return std::nullopt;
+  }
+  // Shows the balloon and waits; the number of the chosen label, from 1, or 0 when it was closed
+  // without one. Nothing where no balloon can be shown.
+  virtual std::optional<int> showBalloon(const Balloon& balloon) {
+    static_cast<void>(balloon);
+    return std::nullopt;
+  }
+  // Shows the preview of a form; it stays until the user closes it, or until the next one.
+  virtual void showPreview(const PreviewSurface& surface) { static_cast<void>(surface); }
 
   // The main window is to be painted as it now is; once per selected object of a batch.
   virtual void refresh(const MainWindow& window) { static_cast<void>(window); }

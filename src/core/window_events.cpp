@@ -4,14 +4,20 @@
 #include <array>
 
 #include "core/database_opening.h"
+#include "core/folder_browsing.h"
 #include "core/form_batch.h"
 #include "core/library_paths.h"
 #include "core/macro_batch.h"
 #include "core/main_object.h"
 #include "core/module_batch.h"
 #include "core/object_batch.h"
+#include "core/object_lists.h"
+#include "core/program_exit.h"
 #include "core/query_batch.h"
 #include "core/report_batch.h"
+#include "help/help_topics.h"
+#include "help/how_to.h"
+#include "preview/preview_form.h"
 
 namespace tarrowin {
 
@@ -38,6 +44,43 @@ constexpr std::array<ListRow, kObjectListCount> kListRows = {{
 }};
 // clang-format on
 
+struct ButtonRow {
+  std::string_view name;
+  void (*procedure)(MainObject&);
+};
+
+// clang-format off
+constexpr std::array kButtonRows = {
+    ButtonRow{"cmdOpen",     cmdOpen_Click},
+    ButtonRow{"cmdBrowse",   cmdBrowse_Click},
+    ButtonRow{"cmdObjProps", cmdObjProps_Click},
+    ButtonRow{"cmdNext",     [](MainObject& main) { cmdNext_Click(main.window); }},
+    ButtonRow{"cmdPrev",     [](MainObject& main) { cmdPrev_Click(main.window); }},
+};
+
+struct ToolbarTabRow {
+  std::string_view key;
+  int tab;
+};
+constexpr std::array<ToolbarTabRow, 6> kToolbarTabs = {{
+    {"keyQueries",   0},
+    {"keyForms",     1},
+    {"keyReports",   2},
+    {"keyMacros",    3},
+    {"keyModules",   4},
+    {"keyVBProject", 5},
+}};
+
+constexpr std::array kToolbarRows = {
+    ButtonRow{"keyMDBs",    cmdOpen_Click},
+    ButtonRow{"keySupport", showSupportTopic},
+    ButtonRow{"keyHelp",    showMainTopic},
+};
+// clang-format on
+
+constexpr int kReportsTab = 2;
+constexpr int kHowToTab = 6;
+
 // The pager of the How to tab goes back to its start after Convert All Reports, and only then.
 void resetHowToPager(MainWindow& window) {
   window.lblCurrentPage.caption = "0";
@@ -48,12 +91,13 @@ void resetHowToPager(MainWindow& window) {
 }  // namespace
 
 bool clickButton(MainObject& main, std::string_view name, int index) {
-  if (name == "cmdOpen") {
-    cmdOpen_Click(main);
-    return true;
-  }
   if (name == "cmdFindPath") {
     cmdFindPath_Click(main, index);
+    return true;
+  }
+  for (const ButtonRow& row : kButtonRows) {
+    if (name != row.name) continue;
+    row.procedure(main);
     return true;
   }
   for (const ListRow& row : kListRows) {
@@ -66,15 +110,32 @@ bool clickButton(MainObject& main, std::string_view name, int index) {
   return false;
 }
 
+ToolbarResult clickToolbar(MainObject& main, std::string_view key) {
+  if (key == "keyExit") return wantsToExit(main) ? ToolbarResult::kUnload : ToolbarResult::kDone;
+  for (const ToolbarTabRow& row : kToolbarTabs) {
+    if (key != row.key) continue;
+    selectTab(main, row.tab);
+    return ToolbarResult::kDone;
+  }
+  for (const ButtonRow& row : kToolbarRows) {
+    if (key != row.name) continue;
+    row.procedure(main);
+    return ToolbarResult::kDone;
+  }
+  return ToolbarResult::kUnknown;
+}
+
 void selectTab(MainObject& main, int tab) {
-  constexpr int kReportsTab = 2;
   MainWindow& window = main.window;
   if (tab == window.tabSelect) return;
   window.tabSelect = tab;
-  if (tab != kReportsTab || window.list(ObjectList::kReports).empty()) return;
-  for (const int index : {kMsderun, kMsado}) {
-    if (libraryPathLabel(window, index).caption.empty()) cmdFindPath_Click(main, index);
+  if (tab == kReportsTab && !window.list(ObjectList::kReports).empty()) {
+    for (const int index : {kMsderun, kMsado}) {
+      if (libraryPathLabel(window, index).caption.empty()) cmdFindPath_Click(main, index);
+    }
   }
+  refreshHowTo(window, tab == kHowToTab);
+  ApplyButtonState(main);
 }
 
 void doubleClickList(MainObject& main, ObjectList list) {

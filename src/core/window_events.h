@@ -15,6 +15,15 @@ struct MainObject;
 // button of that name.
 bool clickButton(MainObject& main, std::string_view name, int index = 0);
 
+// What a button or menu key of Toolbar1 asked of the window.
+enum class ToolbarResult {
+  kUnknown,  // the toolbar has no such key
+  kDone,
+  kUnload,  // the user wants to leave: the main window is to be unloaded
+};
+// A click on the toolbar's button or menu of that key: "keyMDBs", "keyHelp".
+ToolbarResult clickToolbar(MainObject& main, std::string_view key);
+
 // The user turns to a tab of tabSelect, 0 to 6.
 void selectTab(MainObject& main, int tab);
 

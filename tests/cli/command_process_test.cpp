@@ -1,4 +1,4 @@
-// The commands as processes: version, help, arguments, list, record, preview.
+// The commands as processes: version, help, arguments, list, record.
 #include "cli/command_process.h"
 
 #include <filesystem>
@@ -13,7 +13,7 @@ namespace {
 TEST_F(CommandProcess, VersionAtEveryLevel) {
   const std::string version = "tarrowin-cli " TARROWIN_VERSION "\n";
   EXPECT_EQ(run({"--version"}).out, version);
-  for (const char* command : {"list", "convert", "record", "preview", "script"}) {
+  for (const char* command : {"list", "convert", "record", "preview", "compare", "script"}) {
     const ProgramResult result = run({command, "--version"});
     EXPECT_EQ(result.status, 0) << command;
     EXPECT_EQ(result.out, version) << command;
@@ -24,7 +24,7 @@ TEST_F(CommandProcess, VersionAtEveryLevel) {
 TEST_F(CommandProcess, HelpAtEveryLevel) {
   const ProgramResult top = run({"--help"});
   EXPECT_EQ(top.status, 0);
-  for (const char* command : {"list", "convert", "record", "preview", "script"}) {
+  for (const char* command : {"list", "convert", "record", "preview", "compare", "script"}) {
     EXPECT_NE(top.out.find(command), std::string::npos) << command;
     const ProgramResult result = run({command, "--help"});
     EXPECT_EQ(result.status, 0) << command;
@@ -124,12 +124,6 @@ TEST_F(CommandProcess, RecordRefusesWhatIsNoFile) {
   const ProgramResult missing = run({"record", "orders.access.json", "none/x.access.json"});
   EXPECT_EQ(missing.status, 2);
   EXPECT_NE(missing.err.find("none/x.access.json"), std::string::npos) << missing.err;
-}
-
-TEST_F(CommandProcess, PreviewIsNotInThisVersion) {
-  const ProgramResult result = run({"preview", "orders.access.json", "frmMain"});
-  EXPECT_EQ(result.status, 2);
-  EXPECT_EQ(result.err, "tarrowin-cli: this version of Tarrowin cannot preview yet\n");
 }
 
 }  // namespace

@@ -68,7 +68,7 @@ void replaceAll(std::string& text, const std::string& from, const std::string& t
 
 bool isCompared(const nlohmann::json& event) {
   const std::string kind = event.value("event", "");
-  return kind == "message" || kind == "caption" || kind == "lists";
+  return kind == "message" || kind == "caption" || kind == "lists" || kind == "preview";
 }
 
 // The text with the elapsed time, which ends it, as its placeholder.

@@ -16,7 +16,7 @@ using namespace script_step;
 class ScriptSessionTest : public testing::Test {
  protected:
   Console console{-1, -1, false};
-  Environment environment{console, "/", systemNow, createAccessHost};
+  Environment environment{console, "/"};
   std::vector<Json> transcript;
   ScriptSession session{environment, CodePage(), "/case",
                         [this](const Json& event) { transcript.push_back(event); }};

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include "preview/preview_surface.h"
+
 namespace tarrowin {
 namespace {
 
@@ -112,6 +114,31 @@ TEST_F(ScriptUserTest, ListsEventNamesAllSixInTheOrderOfTheFormat) {
             (std::vector<std::string>{
                 "{\"event\":\"lists\",\"lstQueries\":[\"Q\"],\"lstForms\":[],\"lstReports\":[],"
                 "\"lstMacros\":[],\"lstModules\":[],\"lstObjects\":[\"F\xc3\xbc\"]}"}));
+}
+
+TEST_F(ScriptUserTest, PreviewEventHoldsTheWholeSurface) {
+  PreviewSurface surface;
+  surface.accessName = "F\xfc";
+  surface.sections = {{0, 3000}};
+  surface.put("Caption", "\xfc");
+  PreviewControl& control = surface.controls.emplace_back();
+  control.className = "VB.Frame";
+  control.name = "fra";
+  control.container = "tab";
+  control.put("Left", 5);
+  control.put("Visible", true);
+  control.tabCaptions = {"One"};
+  surface.mstrTabControls = {"0fra"};
+  user.showPreview(surface);
+  EXPECT_EQ(
+      transcript,
+      (std::vector<std::string>{
+          "{\"event\":\"preview\",\"form\":\"F\xc3\xbc\",\"sections\":[{\"number\":0,\"height\":"
+          "3000}],"
+          "\"totalHeight\":3000,\"properties\":{\"Caption\":\"\xc3\xbc\"},\"controls\":[{\"class\":"
+          "\"VB.Frame\",\"name\":\"fra\",\"container\":\"tab\",\"properties\":{\"Left\":5,"
+          "\"Visible\":"
+          "true},\"tabs\":[\"One\"]}],\"tabControls\":[\"0fra\"]}"}));
 }
 
 TEST_F(ScriptUserTest, ResetForgetsAnswersAndCaption) {

@@ -5,6 +5,7 @@
 #include <deque>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,7 @@
 #include <nlohmann/json.hpp>
 
 #include "core/main_object.h"
+#include "preview/preview_surface.h"
 #include "shared/file_system.h"
 #include "shared/temporary_directory.h"
 
@@ -33,14 +35,22 @@ class RecordingUser : public User {
  public:
   Answer messageBox(int style, std::string_view text, std::string_view title) override;
   std::string openFile(const OpenDialog& dialog) override;
+  std::optional<std::string> browseForFolder(std::string_view title) override {
+    folderTitles.emplace_back(title);
+    return chosenFolder;
+  }
   void refresh(const MainWindow& window) override;
   void listsFilled(const MainWindow&) override { ++fillings; }
+  void showPreview(const PreviewSurface& surface) override { previews.push_back(surface); }
 
-  std::deque<Answer> answers;  // of Yes/No boxes; Yes when empty
-  std::string chosenPath;      // what the Open dialog answers
+  std::deque<Answer> answers;               // of Yes/No boxes; Yes when empty
+  std::string chosenPath;                   // what the Open dialog answers
+  std::optional<std::string> chosenFolder;  // what the dialog for folders answers
+  std::vector<std::string> folderTitles;
   std::vector<Box> boxes;
   std::vector<OpenDialog> dialogs;
   std::vector<std::string> progressLabels;  // lblPct at each refresh
+  std::vector<PreviewSurface> previews;
   int fillings = 0;
 };
 

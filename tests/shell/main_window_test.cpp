@@ -1,0 +1,608 @@
+// Every event of the window by real clicks: what each control starts, and what a person sees of it.
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <array>
+#include <filesystem>
+
+#include "shell/main_toolbar.h"
+#include "shell/window_session.h"
+#include "shell/written_files_panel.h"
+
+namespace tarrowin::test {
+
+namespace {
+
+const QString kTitle = QStringLiteral("Access to Visual Basic Tarrowin");
+
+// One object of each kind, so that all buttons but those for all are enabled, and two of each where
+// "all" is to be clicked.
+constexpr const char* kSmallDatabase = R"({
+  "snapshot": 1,
+  "database": {"name": "small.mdb", "version": "4.0", "properties": {"AccessVersion": "08.50"}},
+  "queries": [{"name": "Q One", "sql": "SELECT 1;\r\n"}, {"name": "Q Two", "sql": "SELECT 2;\r\n"}],
+  "forms": [
+    {"name": "F One", "properties": {"Caption": "One", "Width": 3000, "RecordSource": ""},
+     "sections": [{"number": 0, "properties": {"Name": "Detail", "Height": 1000}}], "controls": []},
+    {"name": "F Two", "properties": {"Caption": "Two", "Width": 3000, "RecordSource": ""},
+     "sections": [{"number": 0, "properties": {"Name": "Detail", "Height": 1000}}], "controls": []}],
+  "reports": [
+    {"name": "R One", "properties": {"Caption": "One", "Width": 3000, "RecordSource": ""},
+     "sections": [{"number": 0, "properties": {"Name": "Detail", "Height": 1000}}],
+     "controls": [], "groupLevels": []},
+    {"name": "R Two", "properties": {"Caption": "Two", "Width": 3000, "RecordSource": ""},
+     "sections": [{"number": 0, "properties": {"Name": "Detail", "Height": 1000}}],
+     "controls": [], "groupLevels": []}],
+  "macros": [{"name": "M One", "actions": []}, {"name": "M Two", "actions": []}],
+  "modules": [{"name": "B One", "type": 0, "text": "Sub One()\r\nEnd Sub\r\n"},
+              {"name": "B Two", "type": 0, "text": "Sub Two()\r\nEnd Sub\r\n"}]
+})";
+
+}  // namespace
+
+class MainWindowTest : public QObject {
+  Q_OBJECT
+
+ private:
+  // A session with the small database open and an output directory of its own.
+  struct Opened : WindowSession {
+    Opened() {
+      openWith(database("small.access.json", kSmallDatabase));
+      std::filesystem::create_directory(path("out").toStdString());
+      auto* const directory = find<QLineEdit>("txtCurDir");
+      directory->setText(path("out"));
+      dialogs().forget();
+    }
+    QStringList written() {
+      QStringList names;
+      for (const auto& entry : std::filesystem::directory_iterator(path("out").toStdString()))
+        names.append(QString::fromStdString(entry.path().filename().string()));
+      names.sort();
+      return names;
+    }
+  };
+
+ private slots:
+  void theOpenDialogComesUpAtOnceAndOffersEverySource() {
+    WindowSession session;
+    session.openWith({});
+    const auto seen = session.dialogs().seen("file");
+    QCOMPARE(seen.size(), std::size_t{1});
+    QCOMPARE(seen[0].title, QStringLiteral("Open a Microsoft Access Database"));
+    QVERIFY(seen[0].text.startsWith(QStringLiteral("Access MDB Files (*.mdb)")));
+    QVERIFY(seen[0].text.contains(QStringLiteral("*.access.json")));
+    QCOMPARE(session.view().windowTitle(),
+             QStringLiteral("Microsoft Access to Visual Basic Tarrowin"));
+    QCOMPARE(session.main().window.mousePointer, 0);
+  }
+
+  void anOpenedDatabaseFillsListsTotalsAndButtons() {
+    Opened session;
+    QCOMPARE(session.view().windowTitle(), kTitle + " - [small.access.json] Access v08.50");
+    QCOMPARE(session.find<QLabel>("lblCurDb")->text(), session.path("small.access.json"));
+    for (const char* const list :
+         {"lstQueries", "lstForms", "lstReports", "lstMacros", "lstModules"})
+      QCOMPARE(session.find<QAbstractItemView>(list)->model()->rowCount(), 2);
+    QCOMPARE(session.find<QAbstractItemView>("lstObjects")->model()->rowCount(), 4);
+    QCOMPARE(session.find<QLabel>("lblQueryTime")->text(), QStringLiteral("Total Queries: 2"));
+    QCOMPARE(session.find<QLabel>("lblObjectTime")->text(),
+             QStringLiteral("Total Forms and Modules: 4"));
+    QCOMPARE(session.find<QLabel>("LblQuerySel")->text(),
+             QStringLiteral("Select Queries to Convert"));
+    QVERIFY(session.find<QAbstractButton>("cmdAllForms")->isEnabled());
+    QCOMPARE(session.find<QComboBox>("cboFormNames")->currentText(), QStringLiteral("F One"));
+  }
+
+  void withoutADatabaseNothingCanBeConverted() {
+    WindowSession session;
+    session.openWith({});
+    for (const char* const button :
+         {"cmdConvertQry", "cmdAllQrys", "cmdConvertFrm", "cmdAllForms", "cmdObjProps",
+          "cmdConvertRpt", "cmdAllReports", "cmdConvertMac", "cmdAllMacros", "cmdConvertMod",
+          "cmdAllMods", "cmdConvertObj", "cmdAllObjs", "cmdBrowse"})
+      QVERIFY2(!session.find<QAbstractButton>(button)->isEnabled(), button);
+  }
+
+  // The convert button of each list converts what is selected there.
+  void convertButtonConvertsTheSelection_data() {
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("summary");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("queries") << 0 << "lstQueries"
+                             << "cmdConvertQry"
+                             << "Q Two"
+                             << "Q_Two.bas";
+    QTest::newRow("forms") << 1 << "lstForms"
+                           << "cmdConvertFrm"
+                           << "F Two"
+                           << "F_Two.frm";
+    QTest::newRow("reports") << 2 << "lstReports"
+                             << "cmdConvertRpt"
+                             << "R Two"
+                             << "R_Two.dsr";
+    QTest::newRow("modules") << 4 << "lstModules"
+                             << "cmdConvertMod"
+                             << "B Two"
+                             << "B_Two.bas";
+    QTest::newRow("objects") << 5 << "lstObjects"
+                             << "cmdConvertObj"
+                             << "F Two"
+                             << "F_Two.frm";
+  }
+  void convertButtonConvertsTheSelection() {
+    QFETCH(int, tab);
+    QFETCH(QString, list);
+    QFETCH(QString, button);
+    QFETCH(QString, summary);
+    QFETCH(QString, file);
+    Opened session;
+    session.turnTo(tab);
+    session.select(list.toLatin1(), {1});
+    session.click(button.toLatin1());
+    const auto boxes = session.dialogs().seen("box");
+    QVERIFY(!boxes.empty());
+    QVERIFY2(boxes.back().text.contains(summary), qPrintable(boxes.back().text));
+    QCOMPARE(boxes.back().title, kTitle);
+    QVERIFY2(session.written().contains(file), qPrintable(session.written().join(' ')));
+  }
+
+  void convertMacrosMakesModules() {
+    Opened session;
+    session.turnTo(3);
+    session.select("lstMacros", {0});
+    session.click("cmdConvertMac");
+    QCOMPARE(session.find<QAbstractItemView>("lstModules")->model()->rowCount(), 3);
+  }
+
+  void theAllButtonConvertsTheWholeList_data() {
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QStringList>("files");
+    QTest::newRow("queries") << 0 << "cmdAllQrys" << QStringList{"Q_One.bas", "Q_Two.bas"};
+    QTest::newRow("forms") << 1 << "cmdAllForms" << QStringList{"F_One.frm", "F_Two.frm"};
+    QTest::newRow("reports") << 2 << "cmdAllReports" << QStringList{"R_One.dsr", "R_Two.dsr"};
+    QTest::newRow("modules") << 4 << "cmdAllMods" << QStringList{"B_One.bas", "B_Two.bas"};
+    QTest::newRow("objects") << 5 << "cmdAllObjs"
+                             << QStringList{"F_One.frm", "F_Two.frm", "B_One.bas", "B_Two.bas"};
+  }
+  void theAllButtonConvertsTheWholeList() {
+    QFETCH(int, tab);
+    QFETCH(QString, button);
+    QFETCH(QStringList, files);
+    Opened session;
+    session.turnTo(tab);
+    session.click(button.toLatin1());
+    for (const QString& file : files)
+      QVERIFY2(session.written().contains(file), qPrintable(session.written().join(' ')));
+  }
+
+  void convertAllLeavesTheWholeListSelected() {
+    Opened session;
+    session.click("cmdAllQrys");
+    auto* const list = session.find<QAbstractItemView>("lstQueries");
+    QCOMPARE(list->selectionModel()->selectedIndexes().size(), 2);
+    session.dialogs().forget();
+    session.click("cmdBrowse");
+    QCOMPARE(session.dialogs().seen("folder").back().title,
+             QStringLiteral("Save Queries in Folder..."));
+  }
+
+  void theFocusGoesToTheOutputDirectoryThatIsMissing() {
+    Opened session;
+    session.find<QLineEdit>("txtCurDir")->setText(session.path("nowhere"));
+    session.dialogs().answer(QStringLiteral("No"));
+    session.click("cmdAllQrys");
+    QCOMPARE(session.view().focusWidget(), session.find<QLineEdit>("txtCurDir"));
+  }
+
+  void theHowToTabHasItsOwnTitleUntilAPageIsTurned() {
+    Opened session;
+    session.turnTo(6);
+    QCOMPARE(session.find<QLabel>("lblTitle")->text(), QStringLiteral("Using the Tarrowin"));
+  }
+
+  void allMacrosBecomeModules() {
+    Opened session;
+    session.turnTo(3);
+    session.click("cmdAllMacros");
+    QCOMPARE(session.find<QAbstractItemView>("lstModules")->model()->rowCount(), 4);
+  }
+
+  void convertAllReportsSetsThePagerBackToItsStart() {
+    Opened session;
+    session.turnTo(6);
+    session.click("cmdNext");
+    QCOMPARE(session.find<QLabel>("lblCurrentPage")->text(), QStringLiteral("1"));
+    session.turnTo(2);
+    session.click("cmdAllReports");
+    QCOMPARE(session.find<QLabel>("lblCurrentPage")->text(), QStringLiteral("0"));
+    QCOMPARE(session.find<QLabel>("lblLastPage")->text(), QStringLiteral("6"));
+    QVERIFY(!session.find<QAbstractButton>("cmdPrev")->isEnabled());
+  }
+
+  void aDoubleClickConvertsTheItemAlone() {
+    Opened session;
+    session.select("lstQueries", {0, 1});
+    session.doubleClick("lstQueries", 1);
+    QCOMPARE(session.written(), QStringList{"Q_Two.bas"});
+  }
+
+  void aDoubleClickOnEachListStartsItsDriver() {
+    Opened session;
+    constexpr std::array<const char*, 6> kLists = {"lstQueries", "lstForms",   "lstReports",
+                                                   "lstMacros",  "lstModules", "lstObjects"};
+    for (std::size_t tab = 0; tab < kLists.size(); ++tab) {
+      session.turnTo(static_cast<int>(tab));
+      session.doubleClick(kLists[tab], 0);
+    }
+    for (const char* const file : {"Q_One.bas", "F_One.frm", "R_One.dsr", "B_One.bas"})
+      QVERIFY2(session.written().contains(QString::fromLatin1(file)), file);
+    QCOMPARE(session.find<QAbstractItemView>("lstModules")->model()->rowCount(), 3);
+  }
+
+  void enterInAListConvertsItsSelection() {
+    Opened session;
+    session.select("lstQueries", {0});
+    QTest::keyClick(session.find<QAbstractItemView>("lstQueries"), Qt::Key_Return);
+    QCOMPARE(session.written(), QStringList{"Q_One.bas"});
+  }
+
+  void multipleQueriesGoIntoOneModuleWhenTheBoxIsTicked() {
+    Opened session;
+    session.click("chkMultiSel");
+    session.click("cmdAllQrys");
+    QCOMPARE(session.written().size(), 1);
+  }
+
+  void optionsReachTheMainObject() {
+    Opened session;
+    session.turnTo(1);
+    session.click("optMultiPage(1)");
+    session.click("optContinuous(1)");
+    session.select("lstForms", {0});
+    session.click("cmdConvertFrm");
+    QCOMPARE(session.main().window.optMultiPage, 1);
+    QCOMPARE(session.main().window.optContinuous, 1);
+  }
+
+  void previewShowsAWindowForTheFirstSelectedForm() {
+    Opened session;
+    session.turnTo(1);
+    session.select("lstForms", {1});
+    session.click("cmdObjProps");
+    QWidget* preview = nullptr;
+    for (QWidget* const widget : QApplication::topLevelWidgets()) {
+      if (widget->objectName() == QLatin1String("Form1") && widget->isVisible()) preview = widget;
+    }
+    QVERIFY(preview != nullptr);
+    QCOMPARE(preview->windowTitle(), QStringLiteral("Two"));
+  }
+
+  void browseTellsTheKindAndTheNumberInItsTitle_data() {
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("one");
+    QTest::addColumn<QString>("several");
+    QTest::newRow("queries") << 0 << "lstQueries"
+                             << "Save Query in Folder..."
+                             << "Save Queries in Folder...";
+    QTest::newRow("forms") << 1 << "lstForms"
+                           << "Save Form in Folder..."
+                           << "Save Forms in Folder...";
+    QTest::newRow("reports") << 2 << "lstReports"
+                             << "Save Report in Folder..."
+                             << "Save Reports in Folder...";
+    QTest::newRow("macros") << 3 << "lstMacros"
+                            << "Save Macro in Folder..."
+                            << "Save Macros in Folder...";
+    QTest::newRow("modules") << 4 << "lstModules"
+                             << "Save Module in Folder..."
+                             << "Save Modules in Folder...";
+    QTest::newRow("objects") << 5 << "lstObjects"
+                             << "Save Object in Folder..."
+                             << "Save Objects in Folder...";
+  }
+  void browseTellsTheKindAndTheNumberInItsTitle() {
+    QFETCH(int, tab);
+    QFETCH(QString, list);
+    QFETCH(QString, one);
+    QFETCH(QString, several);
+    Opened session;
+    session.turnTo(tab);
+    session.select(list.toLatin1(), {0});
+    session.click("cmdBrowse");
+    session.select(list.toLatin1(), {0, 1});
+    session.click("cmdBrowse");
+    const auto seen = session.dialogs().seen("folder");
+    QCOMPARE(seen.size(), std::size_t{2});
+    QCOMPARE(seen[0].title, one);
+    QCOMPARE(seen[1].title, several);
+  }
+
+  void aFolderChosenByBrowseBecomesTheOutputDirectory() {
+    Opened session;
+    std::filesystem::create_directory(session.path("other").toStdString());
+    session.dialogs().answer(session.path("other"));
+    session.click("cmdBrowse");
+    QCOMPARE(session.find<QLineEdit>("txtCurDir")->text(), session.path("other"));
+    // A cancelled dialog changes nothing.
+    session.click("cmdBrowse");
+    QCOMPARE(session.find<QLineEdit>("txtCurDir")->text(), session.path("other"));
+  }
+
+  void findPathTakesTheLibraryOfThatName() {
+    Opened session;
+    session.turnTo(2);
+    session.dialogs().answer(QStringLiteral("C:\\dll\\msderun.dll"));
+    session.click("cmdFindPath(0)");
+    QCOMPARE(session.find<QLabel>("lblFindPath(2)")->text(), QStringLiteral("C:\\dll\\"));
+    session.dialogs().answer(QStringLiteral("C:\\dll\\MSADO15.DLL"));
+    session.click("cmdFindPath(1)");
+    QCOMPARE(session.dialogs().seen("box").back().text,
+             QStringLiteral("Please select the MSADO15.DLL file."));
+  }
+
+  void theToolbarTurnsTheTabs() {
+    Opened session;
+    constexpr std::array<const char*, 6> kKeys = {"keyQueries", "keyForms",   "keyReports",
+                                                  "keyMacros",  "keyModules", "keyVBProject"};
+    for (int tab = 5; tab >= 0; --tab) {
+      session.view().findChild<QAction*>(kKeys[static_cast<std::size_t>(tab)])->trigger();
+      QCOMPARE(session.find<QTabWidget>("tabSelect")->currentIndex(), tab);
+      QCOMPARE(session.main().window.tabSelect, tab);
+    }
+  }
+
+  void theToolbarOpensHelpsAndSupports() {
+    Opened session;
+    session.view().findChild<QAction*>("keyMDBs")->trigger();
+    QCOMPARE(session.dialogs().seen().back().kind, QStringLiteral("file"));
+    session.view().findChild<QAction*>("keyHelp")->trigger();
+    QCOMPARE(session.dialogs().seen().back().title, QStringLiteral("Tarrowin"));
+    session.view().findChild<QAction*>("keySupport")->trigger();
+    QCOMPARE(session.dialogs().seen().back().title, QStringLiteral("Tarrowin Support"));
+  }
+
+  void cmdOpenOpensAnotherDatabase() {
+    Opened session;
+    session.dialogs().answer(session.sample());
+    session.click("cmdOpen");
+    QCOMPARE(session.find<QAbstractItemView>("lstForms")->model()->rowCount(), 16);
+    QVERIFY(session.view().windowTitle().contains(QStringLiteral("[northport.access.json]")));
+  }
+
+  void theHowToTabTurnsItsPages() {
+    Opened session;
+    session.turnTo(6);
+    const QStringList titles = {"Overview",
+                                "Converting Queries",
+                                "Converting Forms",
+                                "Converting Reports",
+                                "Converting Macros",
+                                "Converting Modules",
+                                "Creating Visual Basic Projects"};
+    for (int page = 1; page < titles.size(); ++page) {
+      session.click("cmdNext");
+      QCOMPARE(session.find<QLabel>("lblTitle")->text(), titles[page]);
+      QVERIFY(!session.find<QLabel>("lblInfo(0)")->text().isEmpty());
+    }
+    QVERIFY(!session.find<QAbstractButton>("cmdNext")->isEnabled());
+    for (int page = 5; page >= 0; --page) {
+      session.click("cmdPrev");
+      QCOMPARE(session.find<QLabel>("lblTitle")->text(), titles[page]);
+    }
+    QVERIFY(!session.find<QAbstractButton>("cmdPrev")->isEnabled());
+  }
+
+  // Right clicks.
+
+  void everyControlAnswersARightClick_data() {
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<QString>("heading");
+    const auto row = [](int tab, const char* control, const char* heading) {
+      QTest::newRow(control) << tab << control << heading;
+    };
+    row(1, "cmdAllForms", "Convert All Forms");
+    row(3, "cmdAllMacros", "Convert All Macros");
+    row(4, "cmdAllMods", "Convert All Modules");
+    row(5, "cmdAllObjs", "Convert All Objects");
+    row(0, "cmdAllQrys", "Convert All Queries");
+    row(2, "cmdAllReports", "Convert All Reports");
+    row(0, "cmdBrowse", "Browse Folders");
+    row(1, "cmdConvertFrm", "Convert Selected Forms");
+    row(3, "cmdConvertMac", "Convert Selected Macros");
+    row(4, "cmdConvertMod", "Convert Selected Modules");
+    row(5, "cmdConvertObj", "Convert Selected Objects");
+    row(0, "cmdConvertQry", "Convert Selected Queries");
+    row(2, "cmdConvertRpt", "Convert Selected Reports");
+    row(1, "cmdObjProps", "Preview Access Forms");
+    row(0, "cmdOpen", "Open Access Database");
+    row(5, "lblSelectVBStartupForm", "Select VB StartUp Form");
+    row(1, "lstForms", "Forms List");
+    row(3, "lstMacros", "Macros List");
+    row(4, "lstModules", "Modules List");
+    row(5, "lstObjects", "Forms and Modules List");
+    row(0, "lstQueries", "Queries List");
+    row(2, "lstReports", "Reports List");
+    row(1, "optContinuous(0)", "Convert Continuous Forms");
+    row(1, "optContinuous(1)", "Convert Continuous Forms");
+    row(1, "optMultiPage(0)", "Convert Multi-Page Forms");
+    row(1, "optMultiPage(1)", "Convert Multi-Page Forms");
+    row(0, "chkMultiSel", "Convert Multiple Query Selections");
+    row(0, "txtCurDir", "Save in Folder");
+    row(0, "Toolbar1", "About Tarrowin");
+  }
+  void everyControlAnswersARightClick() {
+    QFETCH(int, tab);
+    QFETCH(QString, control);
+    QFETCH(QString, heading);
+    Opened session;
+    session.turnTo(tab);
+    session.dialogs().forget();
+    session.rightClick(control.toLatin1());
+    const auto balloons = session.dialogs().seen("balloon");
+    QCOMPARE(balloons.size(), std::size_t{1});
+    QCOMPARE(balloons[0].title, heading);
+    QVERIFY(!balloons[0].text.isEmpty());
+  }
+
+  void disabledControlsAnswerARightClickToo() {
+    WindowSession session;
+    session.openWith({});
+    session.dialogs().forget();
+    session.rightClick("cmdConvertQry");
+    QCOMPARE(session.dialogs().seen("balloon").size(), std::size_t{1});
+  }
+
+  void theTabUnderThePointerTellsItsTopic() {
+    Opened session;
+    auto* const bar = session.find<QTabWidget>("tabSelect")->tabBar();
+    const QStringList headings = {"Query Selections",  "Form Selections",
+                                  "Report Selections", "Macro Selections",
+                                  "Module Selections", "Form and Module Selections",
+                                  "Tab Selections"};
+    for (int tab = 0; tab < headings.size(); ++tab) {
+      session.dialogs().forget();
+      session.rightClickAt(bar, bar->tabRect(tab).center());
+      QCOMPARE(session.dialogs().seen("balloon").back().title, headings[tab]);
+    }
+  }
+
+  void aLabelOfABalloonLeadsOn() {
+    Opened session;
+    session.turnTo(1);
+    session.dialogs().forget();
+    session.dialogs().answer(QStringLiteral("1"));
+    session.rightClick("optContinuous(1)");
+    const auto balloons = session.dialogs().seen("balloon");
+    QCOMPARE(balloons.size(), std::size_t{2});
+    QCOMPARE(balloons[1].title, QStringLiteral("Using the DataRepeater Control"));
+  }
+
+  void helpByKeyboard() {
+    Opened session;
+    session.select("lstQueries", {0});
+    session.find<QAbstractItemView>("lstQueries")->setFocus();
+    session.dialogs().forget();
+    QTest::keyClick(session.find<QAbstractItemView>("lstQueries"), Qt::Key_F1);
+    QCOMPARE(session.dialogs().seen("balloon").back().title, QStringLiteral("Queries List"));
+  }
+
+  // Leaving.
+
+  void exitAsksFirst() {
+    Opened session;
+    session.dialogs().answer(QStringLiteral("No"));
+    session.view().findChild<QAction*>("keyExit")->trigger();
+    const auto boxes = session.dialogs().seen("box");
+    QCOMPARE(boxes.back().text, QStringLiteral("Exit Tarrowin?"));
+    QCOMPARE(boxes.back().title, kTitle);
+    QVERIFY(session.view().isVisible());
+    QVERIFY(bool(session.main().state.gappAccess));
+    session.dialogs().answer(QStringLiteral("Yes"));
+    session.view().findChild<QAction*>("keyExit")->trigger();
+    QVERIFY(!session.view().isVisible());
+    QVERIFY(!session.main().state.gappAccess);
+  }
+
+  // What goes wrong.
+
+  void aDatabaseThatWasDeletedMeanwhileDoesNotEndTheProgram() {
+    Opened session;
+    std::filesystem::remove(session.path("small.access.json").toStdString());
+    session.click("cmdAllQrys");
+    QCOMPARE(session.written(), (QStringList{"Q_One.bas", "Q_Two.bas"}));
+    session.turnTo(3);
+    session.click("cmdAllMacros");
+    QVERIFY(session.view().isEnabled());
+  }
+
+  void anOutputDirectoryThatVanishedIsAskedFor() {
+    Opened session;
+    std::filesystem::remove_all(session.path("out").toStdString());
+    session.dialogs().answer(QStringLiteral("Yes"));
+    session.click("cmdAllQrys");
+    QVERIFY(session.dialogs().seen("box").front().text.contains(
+        QStringLiteral("does not exist.  Do you want to create it?")));
+    QCOMPARE(session.written(), (QStringList{"Q_One.bas", "Q_Two.bas"}));
+  }
+
+  void aRecentFileThatIsGoneIsForgotten() {
+    Opened session;
+    session.shell().openSource(session.path("gone.mdb"));
+    QVERIFY(session.dialogs().seen("box").back().text.startsWith(
+        QStringLiteral("Unable to open database gone.mdb.")));
+    QVERIFY(session.view().isVisible());
+    const Settings settings(session.path("tarrowin.ini"));
+    QCOMPARE(settings.recentFiles(), QStringList{session.path("small.access.json")});
+  }
+
+  // Beyond the described window.
+
+  void theFilesOfABatchAreListed() {
+    Opened session;
+    QVERIFY(!session.view().writtenFiles().isVisible());
+    session.click("cmdAllQrys");
+    QVERIFY(session.view().writtenFiles().isVisible());
+    QCOMPARE(session.view().writtenFiles().files(),
+             (QStringList{session.path("out/Q_One.bas"), session.path("out/Q_Two.bas")}));
+  }
+
+  void theTextOfABoxCanBeCopied() {
+    Opened session;
+    bool open = false;
+    session.dialogs().look = [&](QWidget& dialog) {
+      for (QAbstractButton* const button : dialog.findChildren<QAbstractButton*>("cmdCopy"))
+        QTest::mouseClick(button, Qt::LeftButton);
+      open = dialog.isVisible();
+    };
+    session.click("cmdAllQrys");
+    QVERIFY(open);
+    QCOMPARE(QApplication::clipboard()->text(), session.dialogs().seen("box").back().text);
+  }
+
+  void everythingIsReachedByTheTabKey() {
+    Opened session;
+    session.find<QTabWidget>("tabSelect")->setFocus();
+    QStringList reached;
+    for (int step = 0; step < 30; ++step) {
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+      reached.append(QApplication::focusWidget()->objectName());
+    }
+    for (const char* const name : {"lstQueries", "cmdConvertQry", "cmdAllQrys", "chkMultiSel",
+                                   "txtCurDir", "cmdBrowse", "cmdOpen"})
+      QVERIFY2(reached.contains(QString::fromLatin1(name)), name);
+  }
+
+  void screenReadersHearANameForEveryControl() {
+    Opened session;
+    for (QWidget* const widget : session.view().findChildren<QWidget*>()) {
+      if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith("qt_")) continue;
+      if (!widget->isVisible()) continue;
+      const auto* const button = qobject_cast<QAbstractButton*>(widget);
+      const bool named = !widget->accessibleName().isEmpty() ||
+                         (button != nullptr && !button->text().isEmpty()) ||
+                         widget->objectName() == QLatin1String("tabSelect") ||
+                         qobject_cast<QTabBar*>(widget) != nullptr ||
+                         // Read by its own text.
+                         qobject_cast<QLabel*>(widget) != nullptr;
+      QVERIFY2(named, qPrintable(widget->objectName() + ' ' + widget->metaObject()->className()));
+    }
+  }
+};
+
+}  // namespace tarrowin::test
+
+QTEST_MAIN(tarrowin::test::MainWindowTest)
+#include "main_window_test.moc"
