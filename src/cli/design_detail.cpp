@@ -31,7 +31,7 @@ std::string share(std::size_t known, std::size_t all, const char* what) {
 // A copy is read, so that the designs do not all stay in memory.
 std::vector<ObjectDetail> designDetails(const NamedList<DesignModel>& designs) {
   return detailsOf(designs, [](DesignModel design, ObjectDetail& detail) {
-    detail.understood = design.body.get().understood;
+    detail.understood = design.body.get()->understood;
   });
 }
 

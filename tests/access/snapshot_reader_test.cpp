@@ -197,7 +197,7 @@ std::vector<int> parentsOf(const std::string& controls) {
   const auto model =
       readText(R"({"snapshot":1,"forms":[{"name":"f","controls":[)" + controls + "]}]}");
   std::vector<int> parents;
-  for (const ControlModel& control : model->forms[0].body.get().controls)
+  for (const ControlModel& control : model->forms[0].body.get()->controls)
     parents.push_back(control.parent == ControlModel::kNoParent ? -1
                                                                 : static_cast<int>(control.parent));
   return parents;

@@ -87,7 +87,8 @@ std::string openErrorOf(const DesignModel& design) {
 
 TEST(MdbDesigns, FormIsReadWhenItIsOpened) {
   const auto model = BuiltDatabase().open();
-  const DesignBody& form = find(model->forms, "Good").body.get();
+  const auto held = find(model->forms, "Good").body.get();
+  const DesignBody& form = *held;
   ASSERT_EQ(form.controls.size(), 2u);
   EXPECT_EQ(form.controls[0].name, "A");
   EXPECT_EQ(form.controls[1].name, "L");
@@ -133,7 +134,8 @@ TEST(MdbDesigns, EveryFormAndReportOfTheSamples) {
     for (const auto* list : {&model->forms, &model->reports})
       for (const DesignModel& design : *list) {
         SCOPED_TRACE(design.name);
-        const DesignBody& body = design.body.get();
+        const auto held = design.body.get();
+        const DesignBody& body = *held;
         ++designs;
         ASSERT_TRUE(body.understood);
         EXPECT_EQ(body.controls.size(), body.understood->controls);

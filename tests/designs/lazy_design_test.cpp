@@ -49,9 +49,31 @@ TEST_F(LazyDesignTest, IsReadOnceAndOnlyWhenOpened) {
   });
   EXPECT_EQ(session_->model().forms[0].name, "frmA");
   EXPECT_EQ(reads, 0);
-  EXPECT_EQ(read(open("frmA"), "Name"), Value("frmA"));
+  const auto held = open("frmA");
+  EXPECT_EQ(read(held, "Name"), Value("frmA"));
   EXPECT_EQ(read(open("FRMA"), "Width"), Value(7200));
   EXPECT_EQ(reads, 1);
+}
+
+TEST_F(LazyDesignTest, IsForgottenWhenNobodyHasItOpen) {
+  int reads = 0;
+  addForm("frmA", [&reads] {
+    ++reads;
+    return formWith({named("TextBox", "txtA")});
+  });
+  EXPECT_EQ(read(open("frmA"), "Width"), Value(7200));
+  EXPECT_EQ(read(open("frmA"), "Width"), Value(7200));
+  EXPECT_EQ(reads, 2);
+}
+
+TEST_F(LazyDesignTest, ChangesAreGoneWithTheOneWhoMadeThem) {
+  addForm("frmA", [] { return formWith({named("TextBox", "txtA")}); });
+  const auto changed = open("frmA");
+  const auto other = open("frmA");
+  makeDesign(session_, changed)->put("Width", Value(100));
+  EXPECT_EQ(read(changed, "Width"), Value(100));
+  EXPECT_EQ(read(other, "Width"), Value(7200));
+  EXPECT_EQ(read(open("frmA"), "Width"), Value(7200));
 }
 
 TEST_F(LazyDesignTest, AFailingReaderRefusesThisOneObject) {

@@ -56,7 +56,7 @@ TEST(ExportModel, ObjectsAreReadWhenTheyAreAskedFor) {
   const auto model = opened(folder);
   ASSERT_EQ(model->forms.size(), 2u);
   const DesignModel& good = *model->forms.find("good", model->folding);
-  EXPECT_EQ(good.body.get().controls.size(), 2u);
+  EXPECT_EQ(good.body.get()->controls.size(), 2u);
   EXPECT_TRUE(good.module.get()->ends_with("Private Sub Form_Load()\r\nEnd Sub\r\n"));
   EXPECT_EQ(good.countOfLines.get(), 4);
   EXPECT_EQ(
@@ -80,7 +80,7 @@ TEST(ExportModel, FileThatDisappearsIsAnErrorOfItsObject) {
   std::filesystem::remove(folder.path("forms/a.bas"));
   EXPECT_EQ(errorOf([&] { model->forms[0].body.get(); }),
             "2601 Microsoft Access can't open the form 'a'. forms/a.bas: cannot be read.");
-  EXPECT_EQ(model->forms[1].body.get().controls.size(), 2u);
+  EXPECT_EQ(model->forms[1].body.get()->controls.size(), 2u);
 }
 
 TEST(ExportModel, SplitCode) {
@@ -250,7 +250,7 @@ TEST(ExportModel, ThousandsOfObjects) {
   const auto model = opened(folder);
   ASSERT_EQ(model->forms.size(), std::size_t{kCount});
   EXPECT_THROW(model->forms.find("f77", model->folding)->body.get(), VbError);
-  EXPECT_EQ(model->forms.find("f78", model->folding)->body.get().controls.size(), 2u);
+  EXPECT_EQ(model->forms.find("f78", model->folding)->body.get()->controls.size(), 2u);
 }
 
 TEST(ExportOpening, SingleFile) {
@@ -307,7 +307,7 @@ TEST(ExportOpening, DesignsBesideADatabaseMustBeThere) {
              "Version =0\nColumnsShown =0\nBegin\n    Action =\"Beep\"\nEnd\n");
   const auto model = openDatabaseFile(folder.path("TestDB.mdb"), CodePage(), nullptr, true);
   EXPECT_EQ(model->forms.size(), 3u);
-  EXPECT_EQ(model->forms.find("TestTasksFrm", model->folding)->body.get().controls.size(), 2u);
+  EXPECT_EQ(model->forms.find("TestTasksFrm", model->folding)->body.get()->controls.size(), 2u);
   EXPECT_EQ(model->macros.find("ImportDatabaseMac", model->folding)->actions.get().size(), 1u);
 }
 

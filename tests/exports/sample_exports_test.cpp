@@ -75,7 +75,8 @@ TEST_F(SampleExports, EveryDesignIsUnderstood) {
     const auto model = opened(folder);
     for (const auto* list : {&model->forms, &model->reports})
       for (const DesignModel& design : *list) {
-        const DesignBody& body = design.body.get();
+        const auto held = design.body.get();
+        const DesignBody& body = *held;
         ASSERT_TRUE(body.understood);
         ASSERT_FALSE(body.sections.empty()) << folder << " " << design.name;
         EXPECT_EQ(body.controls.size(), body.understood->controls) << folder << " " << design.name;

@@ -52,7 +52,7 @@ DesignModel lazyDesign(DatabaseModel& database, std::string name, DesignKind kin
                        std::function<StoredDesign()> read) {
   DesignModel design;
   design.name = name;
-  design.body = Lazy<DesignBody>([&database, name = std::move(name), kind, read = std::move(read)] {
+  design.body = LazyBody<DesignBody>([&database, name = std::move(name), kind, read = std::move(read)] {
     try {
       return completeDesign(readOfKind(kind, read), name, database.names);
     } catch (...) {

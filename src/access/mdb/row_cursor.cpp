@@ -122,6 +122,11 @@ std::optional<std::string> RowCursor::text(std::size_t column) const {
 }
 
 std::optional<std::int32_t> RowCursor::number(std::size_t column) const {
+  const StoredColumn& stored = definition_->stored[column];
+  if (stored.type == kDaoLong) {
+    const std::optional<ByteView> cell = row_.cell(stored);
+    return cell ? std::optional(cell->s32(0)) : std::nullopt;
+  }
   Value value = this->value(column);
   if (value.longInteger() == nullptr) return std::nullopt;
   return *value.longInteger();

@@ -3,6 +3,7 @@
 #include "access/mdb/text.h"
 
 #include <algorithm>
+#include <cstring>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -144,6 +145,10 @@ char32_t toLower(char32_t c) {
 std::size_t equalStart(std::string_view left, std::string_view right) {
   const std::size_t shorter = std::min(left.size(), right.size());
   std::size_t equal = 0;
+  constexpr std::size_t kBlock = 8;
+  while (equal + kBlock <= shorter &&
+         std::memcmp(left.data() + equal, right.data() + equal, kBlock) == 0)
+    equal += kBlock;
   while (equal < shorter && left[equal] == right[equal]) ++equal;
   while (equal > 0 && static_cast<unsigned char>(left[equal - 1]) >= kFirstBeyondAscii) --equal;
   return equal;

@@ -16,6 +16,7 @@
 #include "access/macro/macro_action.h"
 #include "access/model/case_folding.h"
 #include "access/model/lazy.h"
+#include "access/model/lazy_body.h"
 #include "access/model/name_table.h"
 #include "access/model/named_list.h"
 #include "access/model/property_bag.h"
@@ -108,7 +109,7 @@ struct DesignBody {
 
 struct DesignModel {
   std::string name;
-  Lazy<DesignBody> body;  // a load that fails raises what opening the object raises
+  LazyBody<DesignBody> body;  // a load that fails raises what opening the object raises
   Lazy<std::optional<std::string>> module;  // the text of its class module
   Lazy<std::optional<std::int32_t>> countOfLines;
   std::optional<RecordedError> openError, exportError;

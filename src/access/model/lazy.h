@@ -22,11 +22,6 @@ class Lazy {
     }
     return *value_;
   }
-  // The value for changes.
-  T& edit() {
-    get();
-    return *value_;
-  }
 
  private:
   mutable std::optional<T> value_;

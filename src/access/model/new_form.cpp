@@ -40,7 +40,8 @@ std::unique_ptr<DesignModel> fromTemplate(const DatabaseModel& database, const s
   if (!source) raise(kErrNoForm, name);
   if (source->openError) source->openError->raise(source->name);
   auto form = std::make_unique<DesignModel>();
-  const DesignBody& body = source->body.get();
+  const auto held = source->body.get();
+  const DesignBody& body = *held;
   DesignBody copied;
   copied.properties = body.properties;
   copied.sections = body.sections;

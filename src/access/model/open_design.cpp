@@ -7,7 +7,8 @@ DesignModel& OpenDesign::edit() {
   if (!copy_) {
     copy_ = std::make_unique<DesignModel>(*design_);
     design_ = copy_.get();
-    body_ = &copy_->body.get();
+    copy_->body.edit();
+    body_ = copy_->body.get();
   }
   controlIndex_.reset();
   return *copy_;

@@ -21,12 +21,12 @@ class OpenDesign {
  public:
   // Raises what reading the design raises.
   OpenDesign(const DesignModel& design, bool isReport)
-      : source_(&design), design_(&design), body_(&design.body.get()), isReport_(isReport) {}
+      : source_(&design), design_(&design), body_(design.body.get()), isReport_(isReport) {}
   // A form that the database does not have yet, made from the form of that name.
   OpenDesign(std::unique_ptr<DesignModel> created, std::string templateName)
       : source_(created.get()),
         design_(created.get()),
-        body_(&created->body.get()),
+        body_(created->body.get()),
         copy_(std::move(created)),
         isReport_(false),
         isNew_(true),
@@ -56,7 +56,7 @@ class OpenDesign {
  private:
   const DesignModel* source_;
   const DesignModel* design_;
-  const DesignBody* body_;
+  std::shared_ptr<const DesignBody> body_;
   std::unique_ptr<DesignModel> copy_;
   bool isReport_;
   bool isNew_ = false;

@@ -16,7 +16,8 @@ class ObjectWriter {
   explicit ObjectWriter(const DatabaseModel& database) : database_(database) {}
 
   Json form(const DesignModel& form) const {
-    const DesignBody& body = form.body.get();
+    const auto held = form.body.get();
+    const DesignBody& body = *held;
     Json entry;
     entry["name"] = utf8(form.name);
     entry["properties"] = properties(body.properties);
