@@ -14,7 +14,7 @@
 #include <filesystem>
 
 #include "shell/main_toolbar.h"
-#include "shell/window_session.h"
+#include "shell/opened_session.h"
 #include "shell/written_files_panel.h"
 
 namespace tarrowin::test {
@@ -23,52 +23,10 @@ namespace {
 
 const QString kTitle = QStringLiteral("Access to Visual Basic Tarrowin");
 
-// One object of each kind, so that all buttons but those for all are enabled, and two of each where
-// "all" is to be clicked.
-constexpr const char* kSmallDatabase = R"({
-  "snapshot": 1,
-  "database": {"name": "small.mdb", "version": "4.0", "properties": {"AccessVersion": "08.50"}},
-  "queries": [{"name": "Q One", "sql": "SELECT 1;\r\n"}, {"name": "Q Two", "sql": "SELECT 2;\r\n"}],
-  "forms": [
-    {"name": "F One", "properties": {"Caption": "One", "Width": 3000, "RecordSource": ""},
-     "sections": [{"number": 0, "properties": {"Name": "Detail", "Height": 1000}}], "controls": []},
-    {"name": "F Two", "properties": {"Caption": "Two", "Width": 3000, "RecordSource": ""},
-     "sections": [{"number": 0, "properties": {"Name": "Detail", "Height": 1000}}], "controls": []}],
-  "reports": [
-    {"name": "R One", "properties": {"Caption": "One", "Width": 3000, "RecordSource": ""},
-     "sections": [{"number": 0, "properties": {"Name": "Detail", "Height": 1000}}],
-     "controls": [], "groupLevels": []},
-    {"name": "R Two", "properties": {"Caption": "Two", "Width": 3000, "RecordSource": ""},
-     "sections": [{"number": 0, "properties": {"Name": "Detail", "Height": 1000}}],
-     "controls": [], "groupLevels": []}],
-  "macros": [{"name": "M One", "actions": []}, {"name": "M Two", "actions": []}],
-  "modules": [{"name": "B One", "type": 0, "text": "Sub One()\r\nEnd Sub\r\n"},
-              {"name": "B Two", "type": 0, "text": "Sub Two()\r\nEnd Sub\r\n"}]
-})";
-
 }  // namespace
 
 class MainWindowTest : public QObject {
   Q_OBJECT
-
- private:
-  // A session with the small database open and an output directory of its own.
-  struct Opened : WindowSession {
-    Opened() {
-      openWith(database("small.access.json", kSmallDatabase));
-      std::filesystem::create_directory(path("out").toStdString());
-      auto* const directory = find<QLineEdit>("txtCurDir");
-      directory->setText(path("out"));
-      dialogs().forget();
-    }
-    QStringList written() {
-      QStringList names;
-      for (const auto& entry : std::filesystem::directory_iterator(path("out").toStdString()))
-        names.append(QString::fromStdString(entry.path().filename().string()));
-      names.sort();
-      return names;
-    }
-  };
 
  private slots:
   void theOpenDialogComesUpAtOnceAndOffersEverySource() {
@@ -85,7 +43,7 @@ class MainWindowTest : public QObject {
   }
 
   void anOpenedDatabaseFillsListsTotalsAndButtons() {
-    Opened session;
+    OpenedSession session;
     QCOMPARE(session.view().windowTitle(), kTitle + " - [small.access.json] Access v08.50");
     QCOMPARE(session.find<QLabel>("lblCurDb")->text(), session.path("small.access.json"));
     for (const char* const list :
@@ -145,7 +103,7 @@ class MainWindowTest : public QObject {
     QFETCH(QString, button);
     QFETCH(QString, summary);
     QFETCH(QString, file);
-    Opened session;
+    OpenedSession session;
     session.turnTo(tab);
     session.select(list.toLatin1(), {1});
     session.click(button.toLatin1());
@@ -157,7 +115,7 @@ class MainWindowTest : public QObject {
   }
 
   void convertMacrosMakesModules() {
-    Opened session;
+    OpenedSession session;
     session.turnTo(3);
     session.select("lstMacros", {0});
     session.click("cmdConvertMac");
@@ -179,7 +137,7 @@ class MainWindowTest : public QObject {
     QFETCH(int, tab);
     QFETCH(QString, button);
     QFETCH(QStringList, files);
-    Opened session;
+    OpenedSession session;
     session.turnTo(tab);
     session.click(button.toLatin1());
     for (const QString& file : files)
@@ -187,7 +145,7 @@ class MainWindowTest : public QObject {
   }
 
   void convertAllLeavesTheWholeListSelected() {
-    Opened session;
+    OpenedSession session;
     session.click("cmdAllQrys");
     auto* const list = session.find<QAbstractItemView>("lstQueries");
     QCOMPARE(list->selectionModel()->selectedIndexes().size(), 2);
@@ -198,7 +156,7 @@ class MainWindowTest : public QObject {
   }
 
   void theFocusGoesToTheOutputDirectoryThatIsMissing() {
-    Opened session;
+    OpenedSession session;
     session.find<QLineEdit>("txtCurDir")->setText(session.path("nowhere"));
     session.dialogs().answer(QStringLiteral("No"));
     session.click("cmdAllQrys");
@@ -206,20 +164,20 @@ class MainWindowTest : public QObject {
   }
 
   void theHowToTabHasItsOwnTitleUntilAPageIsTurned() {
-    Opened session;
+    OpenedSession session;
     session.turnTo(6);
     QCOMPARE(session.find<QLabel>("lblTitle")->text(), QStringLiteral("Using the Tarrowin"));
   }
 
   void allMacrosBecomeModules() {
-    Opened session;
+    OpenedSession session;
     session.turnTo(3);
     session.click("cmdAllMacros");
     QCOMPARE(session.find<QAbstractItemView>("lstModules")->model()->rowCount(), 4);
   }
 
   void convertAllReportsSetsThePagerBackToItsStart() {
-    Opened session;
+    OpenedSession session;
     session.turnTo(6);
     session.click("cmdNext");
     QCOMPARE(session.find<QLabel>("lblCurrentPage")->text(), QStringLiteral("1"));
@@ -231,14 +189,14 @@ class MainWindowTest : public QObject {
   }
 
   void aDoubleClickConvertsTheItemAlone() {
-    Opened session;
+    OpenedSession session;
     session.select("lstQueries", {0, 1});
     session.doubleClick("lstQueries", 1);
     QCOMPARE(session.written(), QStringList{"Q_Two.bas"});
   }
 
   void aDoubleClickOnEachListStartsItsDriver() {
-    Opened session;
+    OpenedSession session;
     constexpr std::array<const char*, 6> kLists = {"lstQueries", "lstForms",   "lstReports",
                                                    "lstMacros",  "lstModules", "lstObjects"};
     for (std::size_t tab = 0; tab < kLists.size(); ++tab) {
@@ -251,21 +209,21 @@ class MainWindowTest : public QObject {
   }
 
   void enterInAListConvertsItsSelection() {
-    Opened session;
+    OpenedSession session;
     session.select("lstQueries", {0});
     QTest::keyClick(session.find<QAbstractItemView>("lstQueries"), Qt::Key_Return);
     QCOMPARE(session.written(), QStringList{"Q_One.bas"});
   }
 
   void multipleQueriesGoIntoOneModuleWhenTheBoxIsTicked() {
-    Opened session;
+    OpenedSession session;
     session.click("chkMultiSel");
     session.click("cmdAllQrys");
     QCOMPARE(session.written().size(), 1);
   }
 
   void optionsReachTheMainObject() {
-    Opened session;
+    OpenedSession session;
     session.turnTo(1);
     session.click("optMultiPage(1)");
     session.click("optContinuous(1)");
@@ -276,7 +234,7 @@ class MainWindowTest : public QObject {
   }
 
   void previewShowsAWindowForTheFirstSelectedForm() {
-    Opened session;
+    OpenedSession session;
     session.turnTo(1);
     session.select("lstForms", {1});
     session.click("cmdObjProps");
@@ -317,7 +275,7 @@ class MainWindowTest : public QObject {
     QFETCH(QString, list);
     QFETCH(QString, one);
     QFETCH(QString, several);
-    Opened session;
+    OpenedSession session;
     session.turnTo(tab);
     session.select(list.toLatin1(), {0});
     session.click("cmdBrowse");
@@ -330,7 +288,7 @@ class MainWindowTest : public QObject {
   }
 
   void aFolderChosenByBrowseBecomesTheOutputDirectory() {
-    Opened session;
+    OpenedSession session;
     std::filesystem::create_directory(session.path("other").toStdString());
     session.dialogs().answer(session.path("other"));
     session.click("cmdBrowse");
@@ -341,7 +299,7 @@ class MainWindowTest : public QObject {
   }
 
   void findPathTakesTheLibraryOfThatName() {
-    Opened session;
+    OpenedSession session;
     session.turnTo(2);
     session.dialogs().answer(QStringLiteral("C:\\dll\\msderun.dll"));
     session.click("cmdFindPath(0)");
@@ -353,7 +311,7 @@ class MainWindowTest : public QObject {
   }
 
   void theToolbarTurnsTheTabs() {
-    Opened session;
+    OpenedSession session;
     constexpr std::array<const char*, 6> kKeys = {"keyQueries", "keyForms",   "keyReports",
                                                   "keyMacros",  "keyModules", "keyVBProject"};
     for (int tab = 5; tab >= 0; --tab) {
@@ -364,7 +322,7 @@ class MainWindowTest : public QObject {
   }
 
   void theToolbarOpensHelpsAndSupports() {
-    Opened session;
+    OpenedSession session;
     session.view().findChild<QAction*>("keyMDBs")->trigger();
     QCOMPARE(session.dialogs().seen().back().kind, QStringLiteral("file"));
     session.view().findChild<QAction*>("keyHelp")->trigger();
@@ -374,7 +332,7 @@ class MainWindowTest : public QObject {
   }
 
   void cmdOpenOpensAnotherDatabase() {
-    Opened session;
+    OpenedSession session;
     session.dialogs().answer(session.sample());
     session.click("cmdOpen");
     QCOMPARE(session.find<QAbstractItemView>("lstForms")->model()->rowCount(), 16);
@@ -382,7 +340,7 @@ class MainWindowTest : public QObject {
   }
 
   void theHowToTabTurnsItsPages() {
-    Opened session;
+    OpenedSession session;
     session.turnTo(6);
     const QStringList titles = {"Overview",
                                 "Converting Queries",
@@ -404,105 +362,10 @@ class MainWindowTest : public QObject {
     QVERIFY(!session.find<QAbstractButton>("cmdPrev")->isEnabled());
   }
 
-  // Right clicks.
-
-  void everyControlAnswersARightClick_data() {
-    QTest::addColumn<int>("tab");
-    QTest::addColumn<QString>("control");
-    QTest::addColumn<QString>("heading");
-    const auto row = [](int tab, const char* control, const char* heading) {
-      QTest::newRow(control) << tab << control << heading;
-    };
-    row(1, "cmdAllForms", "Convert All Forms");
-    row(3, "cmdAllMacros", "Convert All Macros");
-    row(4, "cmdAllMods", "Convert All Modules");
-    row(5, "cmdAllObjs", "Convert All Objects");
-    row(0, "cmdAllQrys", "Convert All Queries");
-    row(2, "cmdAllReports", "Convert All Reports");
-    row(0, "cmdBrowse", "Browse Folders");
-    row(1, "cmdConvertFrm", "Convert Selected Forms");
-    row(3, "cmdConvertMac", "Convert Selected Macros");
-    row(4, "cmdConvertMod", "Convert Selected Modules");
-    row(5, "cmdConvertObj", "Convert Selected Objects");
-    row(0, "cmdConvertQry", "Convert Selected Queries");
-    row(2, "cmdConvertRpt", "Convert Selected Reports");
-    row(1, "cmdObjProps", "Preview Access Forms");
-    row(0, "cmdOpen", "Open Access Database");
-    row(5, "lblSelectVBStartupForm", "Select VB StartUp Form");
-    row(1, "lstForms", "Forms List");
-    row(3, "lstMacros", "Macros List");
-    row(4, "lstModules", "Modules List");
-    row(5, "lstObjects", "Forms and Modules List");
-    row(0, "lstQueries", "Queries List");
-    row(2, "lstReports", "Reports List");
-    row(1, "optContinuous(0)", "Convert Continuous Forms");
-    row(1, "optContinuous(1)", "Convert Continuous Forms");
-    row(1, "optMultiPage(0)", "Convert Multi-Page Forms");
-    row(1, "optMultiPage(1)", "Convert Multi-Page Forms");
-    row(0, "chkMultiSel", "Convert Multiple Query Selections");
-    row(0, "txtCurDir", "Save in Folder");
-    row(0, "Toolbar1", "About Tarrowin");
-  }
-  void everyControlAnswersARightClick() {
-    QFETCH(int, tab);
-    QFETCH(QString, control);
-    QFETCH(QString, heading);
-    Opened session;
-    session.turnTo(tab);
-    session.dialogs().forget();
-    session.rightClick(control.toLatin1());
-    const auto balloons = session.dialogs().seen("balloon");
-    QCOMPARE(balloons.size(), std::size_t{1});
-    QCOMPARE(balloons[0].title, heading);
-    QVERIFY(!balloons[0].text.isEmpty());
-  }
-
-  void disabledControlsAnswerARightClickToo() {
-    WindowSession session;
-    session.openWith({});
-    session.dialogs().forget();
-    session.rightClick("cmdConvertQry");
-    QCOMPARE(session.dialogs().seen("balloon").size(), std::size_t{1});
-  }
-
-  void theTabUnderThePointerTellsItsTopic() {
-    Opened session;
-    auto* const bar = session.find<QTabWidget>("tabSelect")->tabBar();
-    const QStringList headings = {"Query Selections",  "Form Selections",
-                                  "Report Selections", "Macro Selections",
-                                  "Module Selections", "Form and Module Selections",
-                                  "Tab Selections"};
-    for (int tab = 0; tab < headings.size(); ++tab) {
-      session.dialogs().forget();
-      session.rightClickAt(bar, bar->tabRect(tab).center());
-      QCOMPARE(session.dialogs().seen("balloon").back().title, headings[tab]);
-    }
-  }
-
-  void aLabelOfABalloonLeadsOn() {
-    Opened session;
-    session.turnTo(1);
-    session.dialogs().forget();
-    session.dialogs().answer(QStringLiteral("1"));
-    session.rightClick("optContinuous(1)");
-    const auto balloons = session.dialogs().seen("balloon");
-    QCOMPARE(balloons.size(), std::size_t{2});
-    QCOMPARE(balloons[1].title, QStringLiteral("Using the DataRepeater Control"));
-  }
-
-  void helpByKeyboard() {
-    Opened session;
-    session.select("lstQueries", {0});
-    session.find<QAbstractItemView>("lstQueries")->setFocus();
-    session.dialogs().forget();
-    QTest::keyClick(session.find<QAbstractItemView>("lstQueries"), Qt::Key_F1);
-    QCOMPARE(session.dialogs().seen("balloon").back().title, QStringLiteral("Queries List"));
-  }
-
   // Leaving.
 
   void exitAsksFirst() {
-    Opened session;
+    OpenedSession session;
     session.dialogs().answer(QStringLiteral("No"));
     session.view().findChild<QAction*>("keyExit")->trigger();
     const auto boxes = session.dialogs().seen("box");
@@ -519,7 +382,7 @@ class MainWindowTest : public QObject {
   // What goes wrong.
 
   void aDatabaseThatWasDeletedMeanwhileDoesNotEndTheProgram() {
-    Opened session;
+    OpenedSession session;
     std::filesystem::remove(session.path("small.access.json").toStdString());
     session.click("cmdAllQrys");
     QCOMPARE(session.written(), (QStringList{"Q_One.bas", "Q_Two.bas"}));
@@ -529,7 +392,7 @@ class MainWindowTest : public QObject {
   }
 
   void anOutputDirectoryThatVanishedIsAskedFor() {
-    Opened session;
+    OpenedSession session;
     std::filesystem::remove_all(session.path("out").toStdString());
     session.dialogs().answer(QStringLiteral("Yes"));
     session.click("cmdAllQrys");
@@ -539,7 +402,7 @@ class MainWindowTest : public QObject {
   }
 
   void aRecentFileThatIsGoneIsForgotten() {
-    Opened session;
+    OpenedSession session;
     session.shell().openSource(session.path("gone.mdb"));
     QVERIFY(session.dialogs().seen("box").back().text.startsWith(
         QStringLiteral("Unable to open database gone.mdb.")));
@@ -551,7 +414,7 @@ class MainWindowTest : public QObject {
   // Beyond the described window.
 
   void theFilesOfABatchAreListed() {
-    Opened session;
+    OpenedSession session;
     QVERIFY(!session.view().writtenFiles().isVisible());
     session.click("cmdAllQrys");
     QVERIFY(session.view().writtenFiles().isVisible());
@@ -560,7 +423,7 @@ class MainWindowTest : public QObject {
   }
 
   void theTextOfABoxCanBeCopied() {
-    Opened session;
+    OpenedSession session;
     bool open = false;
     session.dialogs().look = [&](QWidget& dialog) {
       for (QAbstractButton* const button : dialog.findChildren<QAbstractButton*>("cmdCopy"))
@@ -573,7 +436,7 @@ class MainWindowTest : public QObject {
   }
 
   void everythingIsReachedByTheTabKey() {
-    Opened session;
+    OpenedSession session;
     session.find<QTabWidget>("tabSelect")->setFocus();
     QStringList reached;
     for (int step = 0; step < 30; ++step) {
@@ -586,7 +449,7 @@ class MainWindowTest : public QObject {
   }
 
   void screenReadersHearANameForEveryControl() {
-    Opened session;
+    OpenedSession session;
     for (QWidget* const widget : session.view().findChildren<QWidget*>()) {
       if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith("qt_")) continue;
       if (!widget->isVisible()) continue;

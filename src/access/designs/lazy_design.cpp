@@ -52,13 +52,14 @@ DesignModel lazyDesign(DatabaseModel& database, std::string name, DesignKind kin
                        std::function<StoredDesign()> read) {
   DesignModel design;
   design.name = name;
-  design.body = LazyBody<DesignBody>([&database, name = std::move(name), kind, read = std::move(read)] {
-    try {
-      return completeDesign(readOfKind(kind, read), name, database.names);
-    } catch (...) {
-      cannotOpenDesign(kind, name, reasonOfCurrentFailure(database.codePage)).raise(name);
-    }
-  });
+  design.body =
+      LazyBody<DesignBody>([&database, name = std::move(name), kind, read = std::move(read)] {
+        try {
+          return completeDesign(readOfKind(kind, read), name, database.names);
+        } catch (...) {
+          cannotOpenDesign(kind, name, reasonOfCurrentFailure(database.codePage)).raise(name);
+        }
+      });
   return design;
 }
 
