@@ -4,8 +4,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QTabBar>
 #include <QTabWidget>
@@ -387,8 +390,11 @@ class MainWindowTest : public QObject {
     session.click("cmdAllQrys");
     QCOMPARE(session.written(), (QStringList{"Q_One.bas", "Q_Two.bas"}));
     session.turnTo(3);
+    session.dialogs().forget();
     session.click("cmdAllMacros");
-    QVERIFY(session.view().isEnabled());
+    // New modules have nowhere to go: that is told, and none is listed.
+    QVERIFY(!session.dialogs().seen("box").empty());
+    QCOMPARE(session.find<QAbstractItemView>("lstModules")->model()->rowCount(), 2);
   }
 
   void anOutputDirectoryThatVanishedIsAskedFor() {
@@ -412,6 +418,40 @@ class MainWindowTest : public QObject {
   }
 
   // Beyond the described window.
+
+  void aDatabaseDroppedOntoTheWindowIsOpened() {
+    OpenedSession session;
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(session.sample())});
+    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&session.view(), &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&session.view(), &drop);
+    QTRY_COMPARE(session.find<QAbstractItemView>("lstForms")->model()->rowCount(), 16);
+  }
+
+  void textDroppedOntoTheWindowIsRefused() {
+    OpenedSession session;
+    QMimeData data;
+    data.setText(QStringLiteral("no file"));
+    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
+    enter.ignore();
+    QApplication::sendEvent(&session.view(), &enter);
+    QVERIFY(!enter.isAccepted());
+  }
+
+  void aRecentDatabaseIsOpenedFromTheMenu() {
+    OpenedSession session;
+    session.shell().openSource(session.sample());
+    QAction* recent = nullptr;
+    for (QAction* const action : session.view().toolbar().findChildren<QAction*>()) {
+      if (action->text().endsWith(QStringLiteral("small.access.json"))) recent = action;
+    }
+    QVERIFY(recent != nullptr);
+    recent->trigger();
+    QCOMPARE(session.find<QAbstractItemView>("lstForms")->model()->rowCount(), 2);
+  }
 
   void theFilesOfABatchAreListed() {
     OpenedSession session;
